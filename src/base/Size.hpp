@@ -1,0 +1,12 @@
+#pragma once
+
+namespace quorvane {
+
+struct Size {
+    double width = 0;
+    double height = 0;
+
+    friend bool operator==(const Size&, const Size&) = default;
+};
+
+}  // namespace quorvane

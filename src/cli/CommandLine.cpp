@@ -1,0 +1,329 @@
+#include "cli/CommandLine.hpp"
+
+#include <algorithm>
+#include <ostream>
+#include <stdexcept>
+
+#include "app/PermissionCenter.hpp"
+#include "app/ToolCatalog.hpp"
+#include "app/ToolRegistry.hpp"
+#include "base/Json.hpp"
+#include "cli/CommandHost.hpp"
+#include "cli/DormantTool.hpp"
+#include "cli/SettingsTextRenderer.hpp"
+#include "platform/Platform.hpp"
+#include "platform/Preferences.hpp"
+#include "portable/FilePreferences.hpp"
+#include "portable/InProcessNotificationBus.hpp"
+#include "portable/PortablePermissionProbe.hpp"
+#include "portable/PortableWorkspace.hpp"
+#include "portable/SteadyScheduler.hpp"
+
+#ifndef QUORVANE_VERSION
+#define QUORVANE_VERSION "0.0.0"
+#endif
+
+namespace quorvane {
+
+namespace {
+
+// A refusal: printed as one line, exit status 2.
+struct CommandError : std::runtime_error {
+    using std::runtime_error::runtime_error;
+};
+
+std::size_t displayWidth(const std::string& text) {
+    // Code points, not bytes: names such as "Hold ⌘Q to Quit" hold multi-byte characters.
+    return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), [](char c) {
+        return (static_cast<unsigned char>(c) & 0xC0) != 0x80;
+    }));
+}
+
+std::string padded(const std::string& text, std::size_t width) {
+    const std::size_t shown = displayWidth(text);
+    return text + std::string(width > shown ? width - shown : 0, ' ');
+}
+
+std::string quoted(const std::string& id) {
+    return "\"" + id + "\"";
+}
+
+// Everything one run of the command works with.
+struct Session {
+    std::unique_ptr<Preferences> preferences;
+    SteadyScheduler scheduler;
+    PortablePermissionProbe probe;
+    PortableWorkspace workspace;
+    InProcessNotificationBus notifications;
+    std::unique_ptr<PermissionCenter> permissions;
+    std::unique_ptr<ToolRegistry> registry;
+};
+
+class Run {
+public:
+    Run(CommandHost& host, const CommandLine::ToolFactory& makeTools, std::ostream& out)
+        : host_(host), makeTools_(makeTools), out_(out) {}
+
+    int execute(std::vector<std::string> args) {
+        std::string prefsPath;
+        bool usePrefsFile = false;
+        std::vector<std::string> rest;
+        for (std::size_t i = 0; i < args.size(); ++i) {
+            const std::string& arg = args[i];
+            if (arg == "--help" || arg == "-h") {
+                out_ << CommandLine::usage() << "\nWithout --prefs the command uses "
+                     << host_.defaultPreferencesDescription() << ".\n";
+                return 0;
+            }
+            if (arg == "--version") {
+                out_ << "quorvane " << QUORVANE_VERSION << "\n";
+                return 0;
+            }
+            if (arg == "--prefs" || arg.starts_with("--prefs=")) {
+                if (arg == "--prefs") {
+                    if (i + 1 >= args.size()) {
+                        throw CommandError("--prefs needs a file");
+                    }
+                    prefsPath = args[++i];
+                } else {
+                    prefsPath = arg.substr(8);
+                }
+                if (prefsPath.empty()) {
+                    throw CommandError("--prefs needs a file");
+                }
+                usePrefsFile = true;
+                continue;
+            }
+            rest.push_back(arg);
+        }
+        if (rest.empty()) {
+            throw CommandError("no command given (try 'quorvane --help')");
+        }
+        const std::string command = rest.front();
+        const std::vector<std::string> operands(rest.begin() + 1, rest.end());
+        checkShape(command, operands);
+        openSession(usePrefsFile, prefsPath);
+
+        if (command == "tools") {
+            listTools(!operands.empty());
+        } else if (command == "search") {
+            search(operands);
+        } else if (command == "enable" || command == "disable") {
+            switchTool(availableTool(operands[0]), command == "enable");
+        } else if (command == "controls") {
+            controls(operands);
+        } else if (command == "settings") {
+            settings(availableTool(operands[0]));
+        }
+        if (const auto error = session_.preferences->lastError(); !error.empty()) {
+            throw CommandError(error);
+        }
+        return 0;
+    }
+
+private:
+    // Refuses a malformed command before anything is opened.
+    static void checkShape(const std::string& command, const std::vector<std::string>& operands) {
+        const auto expect = [&](bool ok, const std::string& what) {
+            if (!ok) {
+                throw CommandError("usage: quorvane " + command + " " + what);
+            }
+        };
+        if (command == "tools") {
+            expect(operands.empty() || (operands.size() == 1 && operands[0] == "--json"),
+                   "[--json]");
+        } else if (command == "search") {
+            expect(!operands.empty(), "WORD…");
+        } else if (command == "enable" || command == "disable" || command == "settings") {
+            expect(operands.size() == 1, "ID");
+        } else if (command == "controls") {
+            expect(operands.empty() ||
+                       (operands.size() == 2 && (operands[0] == "add" || operands[0] == "remove")),
+                   "[add ID | remove ID]");
+        } else {
+            throw CommandError("unknown command " + quoted(command) + " (try 'quorvane --help')");
+        }
+    }
+
+    void openSession(bool usePrefsFile, const std::string& prefsPath) {
+        std::string error;
+        session_.preferences = usePrefsFile ? FilePreferences::open(prefsPath, error)
+                                            : host_.openDefaultPreferences(error);
+        if (!session_.preferences) {
+            throw CommandError(error);
+        }
+        Platform platform{*session_.preferences, session_.scheduler, session_.probe,
+                          session_.workspace, session_.notifications};
+        session_.permissions = std::make_unique<PermissionCenter>(
+            session_.probe, session_.scheduler, session_.workspace);
+        std::vector<std::unique_ptr<Tool>> tools;
+        for (auto& tool : makeTools_ ? makeTools_(platform) : ToolCatalog::makeTools(platform)) {
+            tools.push_back(std::make_unique<DormantTool>(std::move(tool)));
+        }
+        session_.registry = std::make_unique<ToolRegistry>(
+            std::move(tools), *session_.permissions, *session_.preferences, session_.notifications);
+    }
+
+    Tool& knownTool(const std::string& id) {
+        Tool* tool = session_.registry->tool(id);
+        if (tool == nullptr) {
+            throw CommandError("there is no tool with the id " + quoted(id) +
+                               " (run 'quorvane tools' for the list)");
+        }
+        return *tool;
+    }
+
+    Tool& availableTool(const std::string& id) {
+        Tool& tool = knownTool(id);
+        if (!tool.isAvailable()) {
+            throw CommandError(quoted(id) + " (" + tool.name() +
+                               ") is not available in this version of Quorvane");
+        }
+        return tool;
+    }
+
+    bool enabled(const Tool& tool) const {
+        return session_.registry->enabledIDs().contains(tool.id());
+    }
+
+    void listTools(bool json) {
+        const auto& tools = session_.registry->tools();
+        if (json) {
+            Json list = Json::emptyArray();
+            for (const auto& tool : tools) {
+                Json permissions = Json::emptyArray();
+                for (const auto permission : tool->requiredPermissions()) {
+                    permissions.push(Json(std::string(rawValue(permission))));
+                }
+                Json entry = Json::emptyObject();
+                entry.set("id", Json(tool->id()));
+                entry.set("name", Json(tool->name()));
+                entry.set("category", Json(std::string(rawValue(tool->category()))));
+                entry.set("permissions", std::move(permissions));
+                entry.set("enabled", Json(enabled(*tool)));
+                entry.set("available", Json(tool->isAvailable()));
+                list.push(std::move(entry));
+            }
+            out_ << list.serialize(Json::Layout::pretty) << "\n";
+            return;
+        }
+        std::size_t idWidth = 0;
+        std::size_t nameWidth = 0;
+        for (const auto& tool : tools) {
+            idWidth = std::max(idWidth, displayWidth(tool->id()));
+            nameWidth = std::max(nameWidth, displayWidth(tool->name()));
+        }
+        for (const auto& tool : tools) {
+            out_ << padded(tool->id(), idWidth + 2) << padded(tool->name(), nameWidth + 2)
+                 << padded(std::string(title(tool->category())), 18)
+                 << (tool->isAvailable() ? (enabled(*tool) ? "on" : "off")
+                                         : (enabled(*tool) ? "on, not available" : "not available"))
+                 << "\n";
+        }
+    }
+
+    void search(const std::vector<std::string>& operands) {
+        std::vector<std::string> words;
+        for (const auto& operand : operands) {
+            for (auto& word : ToolRegistry::searchWords(operand)) {
+                words.push_back(std::move(word));
+            }
+        }
+        for (const auto& tool : session_.registry->tools()) {
+            if (ToolRegistry::matches(*tool, words)) {
+                out_ << tool->id() << "\n";
+            }
+        }
+    }
+
+    void switchTool(Tool& tool, bool on) {
+        session_.registry->setEnabled(on, tool, false);
+        host_.announce(on ? ToolRegistry::kTurnedItselfOn : ToolRegistry::kTurnedItselfOff,
+                       tool.id());
+        out_ << tool.name() << " is " << (on ? "on" : "off") << ".\n";
+        if (on) {
+            for (const auto permission : tool.requiredPermissions()) {
+                if (permission != Permission::systemAudioRecording) {
+                    out_ << "It works once Quorvane has the " << title(permission)
+                         << " permission.\n";
+                }
+            }
+        }
+    }
+
+    void controls(const std::vector<std::string>& operands) {
+        if (operands.empty()) {
+            for (const auto& id : session_.registry->controlIDs()) {
+                out_ << id << "\n";
+            }
+            return;
+        }
+        const bool add = operands[0] == "add";
+        Tool& tool = availableTool(operands[1]);
+        if (add && !tool.control()) {
+            throw CommandError(quoted(tool.id()) + " (" + tool.name() +
+                               ") has no control for the menu");
+        }
+        session_.registry->setInControls(add, tool);
+    }
+
+    void settings(Tool& tool) {
+        out_ << tool.name() << " (" << tool.id() << "): " << (enabled(tool) ? "on" : "off") << "\n"
+             << tool.summary() << "\n";
+        if (!tool.requiredPermissions().empty()) {
+            std::string needs;
+            for (const auto permission : tool.requiredPermissions()) {
+                needs += (needs.empty() ? "" : ", ") + std::string(title(permission));
+            }
+            out_ << "Needs: " << needs << "\n";
+        }
+        const std::string page = SettingsTextRenderer::render(tool.settingsPage());
+        if (!page.empty()) {
+            out_ << "\n" << page;
+        }
+    }
+
+    CommandHost& host_;
+    const CommandLine::ToolFactory& makeTools_;
+    std::ostream& out_;
+    Session session_;
+};
+
+}  // namespace
+
+CommandLine::CommandLine(CommandHost& host, ToolFactory makeTools)
+    : host_(host), makeTools_(std::move(makeTools)) {}
+
+int CommandLine::run(const std::vector<std::string>& arguments, std::ostream& out,
+                     std::ostream& err) {
+    try {
+        Run run(host_, makeTools_, out);
+        return run.execute(arguments);
+    } catch (const CommandError& error) {
+        err << "quorvane: " << error.what() << "\n";
+        return 2;
+    }
+}
+
+std::string CommandLine::usage() {
+    return "usage: quorvane [--prefs FILE] COMMAND\n"
+           "\n"
+           "Commands:\n"
+           "  tools [--json]             every tool, in the order the app starts them\n"
+           "  search WORD...             the ids of the tools that match every word\n"
+           "  enable ID                  switch a tool on\n"
+           "  disable ID                 switch a tool off\n"
+           "  controls                   the tools with a tile in the menu, in order\n"
+           "  controls add ID            add a tool's tile at the end of the menu's grid\n"
+           "  controls remove ID         remove a tool's tile\n"
+           "  settings ID                a tool's settings page, as text\n"
+           "\n"
+           "Options:\n"
+           "  --prefs FILE               use this preferences file instead of Quorvane's own\n"
+           "  --help                     show this help\n"
+           "  --version                  show the version\n"
+           "\n"
+           "Errors print one line and exit with status 2; nothing is written then.\n";
+}
+
+}  // namespace quorvane

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <memory>
+
+#include "app/Tool.hpp"
+
+namespace quorvane {
+
+// A tool as the command line sees it: everything it says about itself, none of what it does.
+// The command only records the user's choices; the running application starts, stops and
+// tidies tools, so switching one tool here never runs another tool's clean-up in this process.
+class DormantTool : public Tool {
+public:
+    explicit DormantTool(std::unique_ptr<Tool> tool) : tool_(std::move(tool)) {}
+
+    const ToolIdentity& identity() const override { return tool_->identity(); }
+    bool isEnabledByDefault() const override { return tool_->isEnabledByDefault(); }
+    bool needsSetup() const override { return tool_->needsSetup(); }
+    bool opensSettingsWhenTurnedOn() const override { return tool_->opensSettingsWhenTurnedOn(); }
+    bool isAvailable() const override { return tool_->isAvailable(); }
+    void start() override {}
+    void stop() override {}
+    void refresh() override {}
+    void tidy() override {}
+    SettingsPage settingsPage() override { return tool_->settingsPage(); }
+    std::optional<ToolControl> control() override { return tool_->control(); }
+
+private:
+    std::unique_ptr<Tool> tool_;
+};
+
+}  // namespace quorvane

@@ -1,0 +1,37 @@
+#if !__has_feature(objc_arc)
+#error "Compile with -fobjc-arc"
+#endif
+
+#include "mac/MacCommandHost.hpp"
+
+#include <string>
+
+#include "mac/MacNotificationBus.hpp"
+#include "mac/MacPreferences.hpp"
+
+namespace quorvane {
+
+namespace {
+
+class MacCommandHost final : public CommandHost {
+public:
+    // CFPreferences opens no file here, so there is no failure to report.
+    std::unique_ptr<Preferences> openDefaultPreferences(std::string& /*error*/) override {
+        return std::make_unique<MacPreferences>();
+    }
+
+    std::string defaultPreferencesDescription() const override {
+        return std::string("the user defaults of ") + MacPreferences::kApplicationID;
+    }
+
+    void announce(const std::string& notificationName, const std::string& toolID) override {
+        MacNotificationBus(MacNotificationBus::Mode::fromCommandLine)
+            .post(notificationName, toolID);
+    }
+};
+
+}  // namespace
+
+std::unique_ptr<CommandHost> makeMacCommandHost() { return std::make_unique<MacCommandHost>(); }
+
+}  // namespace quorvane

@@ -1,0 +1,12 @@
+#pragma once
+
+// The one way framework headers enter the macOS layer. AppKit and Foundation are Objective-C,
+// so only Objective-C++ files may include this; headers that portable C++ sees never do.
+#if !defined(__OBJC__) || !defined(__cplusplus)
+#error "MacFrameworks.h is for Objective-C++ (.mm) files only"
+#endif
+
+#import <AppKit/AppKit.h>
+#include <ApplicationServices/ApplicationServices.h>
+#include <CoreFoundation/CoreFoundation.h>
+#include <CoreGraphics/CoreGraphics.h>

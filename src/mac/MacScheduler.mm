@@ -1,0 +1,99 @@
+#if !__has_feature(objc_arc)
+#error "Compile with -fobjc-arc"
+#endif
+
+#include "mac/MacScheduler.hpp"
+
+#include <time.h>
+
+#include <cassert>
+#include <chrono>
+#include <cstdint>
+#include <memory>
+#include <utility>
+
+#include "mac/MacFrameworks.h"
+
+namespace quorvane {
+
+namespace {
+
+// Shared by the scheduled block and the Timer that can cancel it. An NSTimer that is already
+// due, or a block already queued on the run loop, cannot be taken back; the flag makes it a
+// no-op instead.
+struct Callback {
+    explicit Callback(std::function<void()> body) : action(std::move(body)) {}
+    bool cancelled = false;
+    std::function<void()> action;
+};
+
+Timer scheduleTimer(Seconds interval, bool repeats, std::function<void()> action) {
+    auto callback = std::make_shared<Callback>(std::move(action));
+    // unconfirmed: check on a Mac first (NSTimer's block API, -[NSRunLoop addTimer:forMode:],
+    // +[NSRunLoop mainRunLoop] and NSRunLoopCommonModes are not in the fact sheet).
+    void (^fire)(NSTimer*) = ^(NSTimer*) {
+      assert([NSThread isMainThread]);
+      // Invalidating the timer from inside the action may free this block; the local copy
+      // keeps the action alive until it returns.
+      const std::shared_ptr<Callback> running = callback;
+      if (!running->cancelled) {
+          running->action();
+      }
+    };
+    NSTimer* timer = [NSTimer timerWithTimeInterval:interval.count() repeats:repeats block:fire];
+    // The common modes include the event-tracking mode, so menus and live resizing do not
+    // hold timers back.
+    [[NSRunLoop mainRunLoop] addTimer:timer forMode:NSRunLoopCommonModes];
+    return Timer([callback, timer] {
+        callback->cancelled = true;
+        // The run loop drops its reference, and with it the block and the action.
+        [timer invalidate];
+    });
+}
+
+}  // namespace
+
+// CLOCK_UPTIME_RAW rather than std::chrono::steady_clock. It is mach_absolute_time in
+// nanoseconds and stands still while the Mac sleeps, as an NSTimer's countdown does; Apple's
+// steady_clock keeps counting through sleep (libc++ reads CLOCK_MONOTONIC_RAW there). With the
+// uptime clock, a deadline measured with now() and a timer of the same length agree after a
+// wake, instead of the deadline having passed while the timer still waits.
+// unconfirmed: check on a Mac first (clock_gettime_nsec_np is not in the fact sheet; the sleep
+// behaviour of NSTimer and of libc++'s steady_clock comes from third-party write-ups).
+Seconds MacScheduler::now() const {
+    const std::uint64_t nanoseconds = clock_gettime_nsec_np(CLOCK_UPTIME_RAW);
+    return std::chrono::nanoseconds(static_cast<std::int64_t>(nanoseconds));
+}
+
+double MacScheduler::date() const {
+    // unconfirmed: check on a Mac first (CFAbsoluteTimeGetCurrent is not in the fact sheet).
+    // It counts seconds since 2001-01-01 00:00:00 UTC, as the port promises.
+    return CFAbsoluteTimeGetCurrent();
+}
+
+Timer MacScheduler::after(Seconds delay, std::function<void()> action) {
+    return scheduleTimer(delay, false, std::move(action));
+}
+
+Timer MacScheduler::every(Seconds interval, std::function<void()> action) {
+    return scheduleTimer(interval, true, std::move(action));
+}
+
+Timer MacScheduler::post(std::function<void()> action) {
+    auto callback = std::make_shared<Callback>(std::move(action));
+    CFRunLoopRef mainLoop = CFRunLoopGetMain();
+    // unconfirmed: check on a Mac first (CFRunLoopPerformBlock and CFRunLoopWakeUp are not in
+    // the fact sheet). Common modes, so a post made during menu tracking still runs there.
+    CFRunLoopPerformBlock(mainLoop, kCFRunLoopCommonModes, ^{
+      assert([NSThread isMainThread]);
+      const std::shared_ptr<Callback> running = callback;
+      if (!running->cancelled) {
+          running->action();
+      }
+    });
+    // Queuing a block does not wake a sleeping run loop by itself.
+    CFRunLoopWakeUp(mainLoop);
+    return Timer([callback] { callback->cancelled = true; });
+}
+
+}  // namespace quorvane

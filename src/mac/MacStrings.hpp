@@ -1,0 +1,22 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "mac/CFRef.hpp"
+#include "mac/MacFrameworks.h"
+
+namespace quorvane {
+
+// Text crosses into the system as UTF-8 and comes back as UTF-8.
+
+// Empty when the bytes are not valid UTF-8.
+CFRef<CFStringRef> makeCFString(std::string_view utf8);
+// nil when the bytes are not valid UTF-8.
+NSString* makeNSString(std::string_view utf8);
+
+// Empty for NULL or nil. A lone UTF-16 surrogate, which UTF-8 cannot carry, comes out as '?'.
+std::string utf8String(CFStringRef string);
+std::string utf8String(NSString* string);
+
+}  // namespace quorvane

@@ -1,0 +1,47 @@
+#if !__has_feature(objc_arc)
+#error "Compile with -fobjc-arc"
+#endif
+
+#include "mac/MacStrings.hpp"
+
+#include <cstddef>
+
+namespace quorvane {
+
+CFRef<CFStringRef> makeCFString(std::string_view utf8) {
+    // A default-constructed view may have a null data pointer; CF gets a real empty string.
+    const char* bytes = utf8.empty() ? "" : utf8.data();
+    // unconfirmed: check on a Mac first (CFStringCreateWithBytes is not in the fact sheet; it
+    // returns NULL for bytes that are not valid in the encoding).
+    return CFRef<CFStringRef>::adopt(
+        CFStringCreateWithBytes(kCFAllocatorDefault, reinterpret_cast<const UInt8*>(bytes),
+                                static_cast<CFIndex>(utf8.size()), kCFStringEncodingUTF8, false));
+}
+
+NSString* makeNSString(std::string_view utf8) {
+    // CFBridgingRelease hands the +1 string to ARC, and gives nil for NULL.
+    return CFBridgingRelease(makeCFString(utf8).detach());
+}
+
+std::string utf8String(CFStringRef string) {
+    if (!string) {
+        return {};
+    }
+    const CFRange whole = CFRangeMake(0, CFStringGetLength(string));
+    // unconfirmed: check on a Mac first (CFStringGetBytes is not in the fact sheet). A NULL
+    // buffer only measures; a non-zero loss byte replaces what the encoding cannot express
+    // instead of stopping there.
+    const UInt8 lossByte = '?';
+    CFIndex byteCount = 0;
+    CFStringGetBytes(string, whole, kCFStringEncodingUTF8, lossByte, false, nullptr, 0, &byteCount);
+    std::string result(static_cast<std::size_t>(byteCount), '\0');
+    CFIndex written = 0;
+    CFStringGetBytes(string, whole, kCFStringEncodingUTF8, lossByte, false,
+                     reinterpret_cast<UInt8*>(result.data()), byteCount, &written);
+    result.resize(static_cast<std::size_t>(written));
+    return result;
+}
+
+std::string utf8String(NSString* string) { return utf8String((__bridge CFStringRef)string); }
+
+}  // namespace quorvane

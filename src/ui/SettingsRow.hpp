@@ -1,0 +1,108 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <variant>
+#include <vector>
+
+namespace quorvane {
+
+// One row of a settings page. Rows are data: labels, texts and choice lists are plain values,
+// and the bindings to the tool are closures, so the whole page is built and checked without a
+// window system. Each platform renders the vocabulary once, generically.
+struct SettingsRow {
+    struct Toggle {
+        std::string label;
+        std::function<bool()> get;
+        std::function<void(bool)> set;
+        std::string help;
+    };
+    struct ChoiceOption {
+        std::string value;  // the stored raw value
+        std::string title;
+    };
+    struct Choice {
+        std::string label;
+        std::vector<ChoiceOption> options;
+        std::function<std::string()> get;
+        std::function<void(const std::string&)> set;
+    };
+    struct Slider {
+        std::string label;
+        double minimum = 0;
+        double maximum = 1;
+        double step = 0;  // 0: continuous
+        std::function<double()> get;
+        std::function<void(double)> set;
+        std::function<std::string(double)> format;  // the value as shown beside the slider
+    };
+    struct Stepper {
+        std::string label;
+        std::int64_t minimum = 0;
+        std::int64_t maximum = 100;
+        std::int64_t step = 1;
+        std::function<std::int64_t()> get;
+        std::function<void(std::int64_t)> set;
+        std::function<std::string(std::int64_t)> format;
+    };
+    struct TextField {
+        std::string label;
+        std::string placeholder;
+        std::function<std::string()> get;
+        std::function<void(const std::string&)> set;
+    };
+    // A global shortcut with its recorder. The display text is empty when no shortcut is set;
+    // a conflict notice is shown when the shortcut could not be registered.
+    struct Shortcut {
+        std::string label;
+        std::function<std::string()> displayText;
+        std::function<bool()> hasConflict;
+        std::string conflictNotice;
+    };
+    struct AppEntry {
+        std::string bundleID;
+        std::string name;
+    };
+    // A list of applications the user picks (allowed apps, excluded apps…).
+    struct AppList {
+        std::string label;
+        std::function<std::vector<AppEntry>()> items;
+        std::function<void(const std::string& bundleID)> add;
+        std::function<void(const std::string& bundleID)> remove;
+        std::string emptyText;
+    };
+    // A list of records shown as one line each, newest first where it matters.
+    struct ItemList {
+        std::string label;
+        std::function<std::vector<std::string>()> items;
+        std::function<void(std::size_t index)> remove;  // empty: items cannot be removed
+        std::string emptyText;
+    };
+    struct Note {
+        std::string text;
+    };
+    struct Warning {
+        std::string text;
+    };
+    enum class ButtonRole { normal, destructive };
+    struct Button {
+        std::string title;
+        std::function<void()> action;
+        ButtonRole role = ButtonRole::normal;
+    };
+    // A row that only a tool's own view can draw (the mixer, the equalizer bands). Text
+    // renderers print its summary.
+    struct Custom {
+        std::string name;
+        std::function<std::string()> summary;
+    };
+
+    using Kind = std::variant<Toggle, Choice, Slider, Stepper, TextField, Shortcut, AppList,
+                              ItemList, Note, Warning, Button, Custom>;
+    Kind kind;
+    // Nothing shown when this answers false; an empty function means always shown.
+    std::function<bool()> isVisible;
+};
+
+}  // namespace quorvane

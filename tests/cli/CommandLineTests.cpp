@@ -1,0 +1,147 @@
+#include "cli/CommandLine.hpp"
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+#include "app/ToolCatalog.hpp"
+#include "base/Json.hpp"
+#include "cli/CommandHost.hpp"
+#include "portable/FilePreferences.hpp"
+#include "support/RecordingTool.hpp"
+#include "support/TemporaryDirectory.hpp"
+
+namespace quorvane {
+namespace {
+
+struct TestHost : CommandHost {
+    std::filesystem::path file;
+    std::vector<std::string> announced;
+
+    std::unique_ptr<Preferences> openDefaultPreferences(std::string& error) override {
+        return FilePreferences::open(file, error);
+    }
+    std::string defaultPreferencesDescription() const override { return file.string(); }
+    void announce(const std::string& name, const std::string& id) override {
+        announced.push_back(name + ":" + id);
+    }
+};
+
+struct Result {
+    int status;
+    std::string out;
+    std::string err;
+};
+
+struct CommandLineTest : ::testing::Test {
+    TemporaryDirectory dir;
+    TestHost host;
+    std::vector<std::string> journal;
+    // The real catalog plus two built tools, one of which has a control tile.
+    CommandLine::ToolFactory factory = [this](const Platform& platform) {
+        auto tools = ToolCatalog::makeTools(platform);
+        auto clock = std::make_unique<RecordingTool>(journal, "clock", std::vector<Permission>{},
+                                                     std::vector<std::string>{"chronometer"});
+        clock->hasControl = true;
+        clock->page.add({"Look", {{SettingsRow::Note{"Shows the time."}, {}}}, ""});
+        tools.push_back(std::move(clock));
+        tools.push_back(std::make_unique<RecordingTool>(
+            journal, "pointer", std::vector<Permission>{Permission::accessibility}));
+        return tools;
+    };
+
+    void SetUp() override { host.file = dir / "preferences.json"; }
+
+    Result run(std::vector<std::string> args) {
+        CommandLine commandLine(host, factory);
+        std::ostringstream out;
+        std::ostringstream err;
+        const int status = commandLine.run(args, out, err);
+        return {status, out.str(), err.str()};
+    }
+    static std::size_t lines(const std::string& text) {
+        return static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n'));
+    }
+};
+
+TEST_F(CommandLineTest, ToolsListsEveryToolInRegistryOrderAsTextAndJson) {
+    const auto text = run({"tools"});
+    ASSERT_EQ(text.status, 0) << text.err;
+    EXPECT_EQ(lines(text.out), 70u);
+    EXPECT_EQ(text.out.rfind("stop-focus-stealing ", 0), 0u);
+
+    const auto json = run({"tools", "--json"});
+    const auto parsed = Json::parse(json.out);
+    ASSERT_TRUE(parsed && parsed->array());
+    const auto& tools = *parsed->array();
+    ASSERT_EQ(tools.size(), 70u);
+    EXPECT_EQ(*tools[7].find("id")->string(), "window-snap");
+    EXPECT_EQ(*tools[67].find("id")->string(), "hide-menu-icons");
+    EXPECT_EQ(*tools[68].find("available")->boolean(), true);
+    EXPECT_EQ(*tools[0].find("available")->boolean(), false) << "nothing pretends to be built";
+    EXPECT_EQ(*tools[69].find("permissions")->array(), Json::Array{Json("accessibility")});
+    EXPECT_FALSE(std::filesystem::exists(host.file)) << "reading writes nothing";
+}
+
+TEST_F(CommandLineTest, EnableAndDisablePersistThroughTheRegistryAndTellTheApp) {
+    auto on = run({"enable", "pointer"});
+    ASSERT_EQ(on.status, 0) << on.err;
+    EXPECT_NE(on.out.find("Accessibility"), std::string::npos) << "says what it still needs";
+    EXPECT_EQ(host.announced, (std::vector<std::string>{"QuorvaneToolTurnedItselfOn:pointer"}));
+    std::string error;
+    EXPECT_EQ(FilePreferences::open(host.file, error)->boolean("tool.pointer.enabled"), true);
+    EXPECT_NE(run({"tools"}).out.find("on\n"), std::string::npos);
+
+    ASSERT_EQ(run({"disable", "pointer"}).status, 0);
+    EXPECT_EQ(FilePreferences::open(host.file, error)->boolean("tool.pointer.enabled"), false);
+    EXPECT_TRUE(journal.empty()) << "the command never starts, stops or tidies a tool";
+}
+
+TEST_F(CommandLineTest, RefusalsAreOneLineWithStatusTwoAndWriteNothing) {
+    const std::vector<std::vector<std::string>> refused = {
+        {"enable", "no-such-tool"},
+        {"enable", "window-snap"},
+        {"settings", "equalizer"},
+        {"controls", "add", "pointer"},
+        {"frobnicate"},
+        {},
+        {"enable"},
+        {"--prefs"},
+        {"tools", "--yaml"},
+    };
+    for (const auto& args : refused) {
+        const auto result = run(args);
+        EXPECT_EQ(result.status, 2) << (args.empty() ? "" : args[0]);
+        EXPECT_EQ(lines(result.err), 1u) << result.err;
+        EXPECT_EQ(result.out, "");
+    }
+    EXPECT_FALSE(std::filesystem::exists(host.file));
+    EXPECT_NE(run({"enable", "window-snap"}).err.find("not available"), std::string::npos);
+
+    TemporaryDirectory::write(host.file, "{\"tool.clock.enabled\": tru");
+    const auto corrupt = run({"enable", "clock"});
+    EXPECT_EQ(corrupt.status, 2);
+    EXPECT_NE(corrupt.err.find("byte"), std::string::npos) << corrupt.err;
+    EXPECT_EQ(TemporaryDirectory::read(host.file), "{\"tool.clock.enabled\": tru");
+}
+
+TEST_F(CommandLineTest, SearchControlsAndSettingsWorkOnAnotherStore) {
+    const auto other = dir / "other.json";
+    const auto found = run({"--prefs", other.string(), "search", "Snapping", "WINDOWS"});
+    EXPECT_NE(found.out.find("window-snap\n"), std::string::npos);
+    EXPECT_EQ(run({"search", "Chronometers"}).out, "clock\n");
+
+    EXPECT_EQ(run({"--prefs=" + other.string(), "controls", "add", "clock"}).status, 0);
+    EXPECT_EQ(run({"--prefs", other.string(), "controls", "add", "clock"}).status, 0);
+    EXPECT_EQ(run({"--prefs", other.string(), "controls"}).out, "clock\n");
+    EXPECT_FALSE(std::filesystem::exists(host.file)) << "--prefs leaves the default store alone";
+
+    const auto page = run({"settings", "clock"});
+    EXPECT_EQ(page.status, 0);
+    EXPECT_NE(page.out.find("Look\n  Shows the time.\n"), std::string::npos) << page.out;
+    EXPECT_EQ(run({"--version"}).status, 0);
+    EXPECT_NE(run({"--help"}).out.find(host.file.string()), std::string::npos);
+}
+
+}  // namespace
+}  // namespace quorvane

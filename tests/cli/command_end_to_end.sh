@@ -1,0 +1,34 @@
+#!/usr/bin/env bash
+# Drives the built `quorvane` binary on a temporary store, as a user would.
+set -u
+quorvane="$1"
+dir=$(mktemp -d)
+trap 'rm -rf "$dir"' EXIT
+store="$dir/preferences.json"
+failures=0
+check() { # description, expected status, command...
+    local what="$1" expected="$2"; shift 2
+    "$@" >"$dir/out" 2>"$dir/err"
+    local status=$?
+    if [ "$status" -ne "$expected" ]; then
+        echo "FAIL: $what: status $status, expected $expected"; cat "$dir/err"; failures=$((failures + 1))
+    fi
+}
+
+check "tools" 0 "$quorvane" --prefs "$store" tools
+[ "$(wc -l <"$dir/out")" -eq 68 ] || { echo "FAIL: tools should list 68 lines"; failures=$((failures + 1)); }
+head -n 1 "$dir/out" | grep -q '^stop-focus-stealing ' || { echo "FAIL: first tool"; failures=$((failures + 1)); }
+check "tools --json" 0 "$quorvane" --prefs "$store" tools --json
+check "search" 0 "$quorvane" --prefs "$store" search snapping
+grep -qx 'window-snap' "$dir/out" || { echo "FAIL: search snapping"; failures=$((failures + 1)); }
+check "unknown tool" 2 "$quorvane" --prefs "$store" enable no-such-tool
+[ "$(wc -l <"$dir/err")" -eq 1 ] || { echo "FAIL: one line on stderr"; failures=$((failures + 1)); }
+[ ! -e "$store" ] || { echo "FAIL: a refusal wrote the store"; failures=$((failures + 1)); }
+printf '{"broken": ' >"$store"
+check "corrupt store" 2 "$quorvane" --prefs "$store" tools
+[ "$(cat "$store")" = '{"broken": ' ] || { echo "FAIL: corrupt store was touched"; failures=$((failures + 1)); }
+XDG_CONFIG_HOME="$dir/config" check "default store" 0 "$quorvane" controls
+check "help" 0 "$quorvane" --help
+
+if [ "$failures" -eq 0 ]; then echo "command end to end: all checks passed"; fi
+exit "$failures"
