@@ -7,26 +7,14 @@
 #include <cassert>
 #include <memory>
 
+#include "mac/CancellableHandler.hpp"
 #include "mac/MacEvent.hpp"
 #include "mac/MacFrameworks.h"
 
 namespace quorvane {
 
-namespace {
-
-// Shared by the monitor's block and the Subscription that removes it, so an event already on
-// its way after removal is dropped.
-template <typename Handler>
-struct Monitor {
-    explicit Monitor(Handler body) : handler(std::move(body)) {}
-    bool cancelled = false;
-    Handler handler;
-};
-
-}  // namespace
-
 Subscription MacEventMonitors::addGlobal(std::uint64_t mask, GlobalHandler handler) {
-    auto monitor = std::make_shared<Monitor<GlobalHandler>>(std::move(handler));
+    auto monitor = std::make_shared<CancellableHandler<GlobalHandler>>(std::move(handler));
     id token = [NSEvent addGlobalMonitorForEventsMatchingMask:static_cast<NSEventMask>(mask)
                                                       handler:^(NSEvent* event) {
                                                         assert([NSThread isMainThread]);
@@ -48,7 +36,7 @@ Subscription MacEventMonitors::addGlobal(std::uint64_t mask, GlobalHandler handl
 }
 
 Subscription MacEventMonitors::addLocal(std::uint64_t mask, LocalHandler handler) {
-    auto monitor = std::make_shared<Monitor<LocalHandler>>(std::move(handler));
+    auto monitor = std::make_shared<CancellableHandler<LocalHandler>>(std::move(handler));
     id token =
         [NSEvent addLocalMonitorForEventsMatchingMask:static_cast<NSEventMask>(mask)
                                               handler:^NSEvent*(NSEvent* event) {

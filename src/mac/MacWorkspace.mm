@@ -7,21 +7,13 @@
 #include <cassert>
 #include <memory>
 
+#include "mac/CancellableHandler.hpp"
 #include "mac/MacFrameworks.h"
 #include "mac/MacStrings.hpp"
 
 namespace quorvane {
 
 namespace {
-
-// Shared by an observer block and the Subscription that removes it: a notification already
-// queued may still arrive after removal, and the flag drops it.
-template <typename Handler>
-struct Observer {
-    explicit Observer(Handler body) : handler(std::move(body)) {}
-    bool cancelled = false;
-    Handler handler;
-};
 
 RunningApplication describe(NSRunningApplication* app) {
     RunningApplication result;
@@ -150,7 +142,7 @@ int MacWorkspace::currentProcessID() {
 
 Subscription MacWorkspace::observe(WorkspaceNotification notification, Handler handler) {
     @autoreleasepool {
-        auto observer = std::make_shared<Observer<Handler>>(std::move(handler));
+        auto observer = std::make_shared<CancellableHandler<Handler>>(std::move(handler));
         // Workspace notifications go to the workspace's own centre, not the default one.
         NSNotificationCenter* center = [[NSWorkspace sharedWorkspace] notificationCenter];
         id<NSObject> token =
@@ -186,7 +178,8 @@ Subscription MacWorkspace::observeDistributed(const std::string& name,
         if (!notification) {
             return {};
         }
-        auto observer = std::make_shared<Observer<std::function<void()>>>(std::move(handler));
+        auto observer =
+            std::make_shared<CancellableHandler<std::function<void()>>>(std::move(handler));
         // unconfirmed: check on a Mac first (NSDistributedNotificationCenter is not in the fact
         // sheet; the block-based observer is inherited from NSNotificationCenter).
         id<NSObject> token = [[NSDistributedNotificationCenter defaultCenter]
