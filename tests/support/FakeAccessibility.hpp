@@ -9,8 +9,8 @@
 
 namespace quorvane {
 
-// Applications' accessibility as a table: elements are numbered, attributes are a map, and
-// observers registrations answer what the test scripts per process.
+// Applications' accessibility for the watcher: elements name their process, and observers'
+// registrations answer what the test scripts per process.
 struct FakeAccessibility : Accessibility {
     struct FakeElement : AccessibilityElement {
         FakeElement(int processID, std::string elementName)
@@ -50,24 +50,16 @@ struct FakeAccessibility : Accessibility {
     std::map<int, int> observersCreated;
     std::vector<Observer*> observers;
     std::vector<float> timeouts;
-    std::map<std::pair<const AccessibilityElement*, std::string>, AccessibilityValue> attributes;
 
     Element systemWide() override { return std::make_shared<FakeElement>(0, "system-wide"); }
     Element application(int pid) override {
         return std::make_shared<FakeElement>(pid, "application");
     }
-    std::int32_t copyAttribute(const Element& element, std::string_view attribute,
-                               AccessibilityValue& value) override {
-        const auto found = attributes.find({element.get(), std::string(attribute)});
-        if (found == attributes.end()) {
-            return kNoValue;
-        }
-        value = found->second;
-        return kSuccess;
+    std::int32_t copyAttribute(const Element&, std::string_view, AccessibilityValue&) override {
+        return kNoValue;
     }
-    std::int32_t setAttribute(const Element& element, std::string_view attribute,
-                              const AccessibilityValue& value) override {
-        attributes[{element.get(), std::string(attribute)}] = value;
+    std::int32_t setAttribute(const Element&, std::string_view,
+                              const AccessibilityValue&) override {
         return kSuccess;
     }
     std::int32_t elementAtPosition(const Element&, float, float, Element&) override {

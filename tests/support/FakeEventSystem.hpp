@@ -14,16 +14,12 @@ struct FakeEventSystem : EventSystem {
     struct Tap {
         std::uint64_t mask = 0;
         bool enabled = true;
-        int enableCalls = 0;
         TapCallback callback;
     };
     struct Handle : EventTapHandle {
         Handle(FakeEventSystem& fake, std::shared_ptr<Tap> live) : system(fake), tap(live) {}
         ~Handle() override { std::erase(system.taps, tap); }
-        void setEnabled(bool enabled) override {
-            tap->enabled = enabled;
-            ++tap->enableCalls;
-        }
+        void setEnabled(bool enabled) override { tap->enabled = enabled; }
         FakeEventSystem& system;
         std::shared_ptr<Tap> tap;
     };
@@ -41,7 +37,7 @@ struct FakeEventSystem : EventSystem {
         if (refuseTaps) {
             return nullptr;
         }
-        auto tap = std::make_shared<Tap>(Tap{mask, true, 0, std::move(callback)});
+        auto tap = std::make_shared<Tap>(Tap{mask, true, std::move(callback)});
         taps.push_back(tap);
         return std::make_unique<Handle>(*this, tap);
     }
@@ -56,20 +52,13 @@ struct FakeEventSystem : EventSystem {
         event->integers[eventField::keyboardKeycode] = keyCode;
         return event;
     }
-    std::unique_ptr<Event> makeMouseEvent(SourceState, EventType type, Point location,
-                                          MouseButton) override {
-        auto event = std::make_unique<FakeEvent>();
-        event->eventType = type;
-        event->point = location;
-        return event;
+    // Nothing uses synthesized mouse or scroll events yet.
+    std::unique_ptr<Event> makeMouseEvent(SourceState, EventType, Point, MouseButton) override {
+        return nullptr;
     }
-    std::unique_ptr<Event> makeScrollEvent(SourceState, ScrollUnit, std::int32_t vertical,
-                                           std::int32_t horizontal) override {
-        auto event = std::make_unique<FakeEvent>();
-        event->eventType = EventType::scrollWheel;
-        event->integers[eventField::scrollDeltaAxis1] = vertical;
-        event->integers[eventField::scrollDeltaAxis2] = horizontal;
-        return event;
+    std::unique_ptr<Event> makeScrollEvent(SourceState, ScrollUnit, std::int32_t,
+                                           std::int32_t) override {
+        return nullptr;
     }
     void post(Location location, Event& event) override {
         posted.push_back({location, dynamic_cast<FakeEvent&>(event)});

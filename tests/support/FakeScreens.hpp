@@ -17,9 +17,7 @@ struct FakePanel : Panel {
     bool visible = false;
     int frontCount = 0;
     std::function<void()> pendingFade;
-    std::shared_ptr<bool> alive = std::make_shared<bool>(true);
 
-    ~FakePanel() override { *alive = false; }
     void setContent(const HUDCard& card) override { content = card; }
     Size fittingSize() const override { return size; }
     void setFrame(const Rect& rect) override { frame = rect; }

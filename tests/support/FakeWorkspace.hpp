@@ -13,7 +13,6 @@ struct FakeWorkspace : Workspace {
     std::vector<std::string> openedURLs;
     std::map<int, RunningApplication> applications;
     int ownPID = 1;
-    int frontmostPID = 0;
     std::map<WorkspaceNotification, HandlerList<const RunningApplication*>> observers;
     std::map<std::string, HandlerList<>> distributed;
     HandlerList<> listObservers;
@@ -33,9 +32,7 @@ struct FakeWorkspace : Workspace {
         const auto found = applications.find(pid);
         return found == applications.end() ? std::nullopt : std::optional(found->second);
     }
-    std::optional<RunningApplication> frontmostApplication() override {
-        return runningApplication(frontmostPID);
-    }
+    std::optional<RunningApplication> frontmostApplication() override { return std::nullopt; }
     int currentProcessID() override { return ownPID; }
     Subscription observe(WorkspaceNotification notification, Handler handler) override {
         return observers[notification].add(std::move(handler));
