@@ -43,10 +43,11 @@ void AccessibilityWatcher::start() {
                                                       }
                                                   }));
     // Not every application is announced by a launch notification; the list catches the rest.
+    // Only an attach that a launch notification caused counts as launched.
     workspaceTokens_.push_back(workspace_.observeRunningApplications([this] {
         listTask_ = scheduler_.post([this] {
             for (const auto& app : workspace_.runningApplications()) {
-                attach(app.pid, true, 0);
+                attach(app.pid, false, 0);
             }
         });
     }));

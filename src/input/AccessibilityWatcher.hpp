@@ -37,8 +37,8 @@ public:
     AccessibilityWatcher& operator=(const AccessibilityWatcher&) = delete;
     ~AccessibilityWatcher();
 
-    // Once an application's observer is fully registered; `launched` is false for applications
-    // that were already running when the watcher started.
+    // Once an application's observer is fully registered; `launched` is true only when the
+    // workspace's launch notification brought the application in.
     std::function<void(int pid, bool launched)> onAppReady;
     std::function<void(int pid)> onAppTerminated;
 
