@@ -11,11 +11,17 @@
 #include "cli/CommandHost.hpp"
 #include "cli/DormantTool.hpp"
 #include "cli/SettingsTextRenderer.hpp"
+#include "input/InputServices.hpp"
 #include "platform/Platform.hpp"
 #include "platform/Preferences.hpp"
 #include "portable/FilePreferences.hpp"
 #include "portable/InProcessNotificationBus.hpp"
+#include "portable/PortableAccessibility.hpp"
+#include "portable/PortableEventMonitors.hpp"
+#include "portable/PortableEventSystem.hpp"
+#include "portable/PortableHotKeySystem.hpp"
 #include "portable/PortablePermissionProbe.hpp"
+#include "portable/PortableScreens.hpp"
 #include "portable/PortableWorkspace.hpp"
 #include "portable/SteadyScheduler.hpp"
 
@@ -55,6 +61,12 @@ struct Session {
     PortablePermissionProbe probe;
     PortableWorkspace workspace;
     InProcessNotificationBus notifications;
+    PortableEventSystem events;
+    PortableHotKeySystem hotKeys;
+    PortableAccessibility accessibility;
+    PortableEventMonitors eventMonitors;
+    PortableScreens screens;
+    InputServices input{hotKeys, screens, scheduler};
     std::unique_ptr<PermissionCenter> permissions;
     std::unique_ptr<ToolRegistry> registry;
 };
@@ -152,8 +164,10 @@ private:
         if (!session_.preferences) {
             throw CommandError(error);
         }
-        Platform platform{*session_.preferences, session_.scheduler, session_.probe,
-                          session_.workspace, session_.notifications};
+        Platform platform{*session_.preferences, session_.scheduler,     session_.probe,
+                          session_.workspace,    session_.notifications, session_.events,
+                          session_.hotKeys,      session_.accessibility, session_.eventMonitors,
+                          session_.screens,      session_.input};
         session_.permissions = std::make_unique<PermissionCenter>(
             session_.probe, session_.scheduler, session_.workspace);
         std::vector<std::unique_ptr<Tool>> tools;

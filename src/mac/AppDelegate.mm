@@ -18,6 +18,12 @@
 #include "mac/MacStrings.hpp"
 #include "mac/MacWorkspace.hpp"
 #include "platform/Platform.hpp"
+#include "input/InputServices.hpp"
+#include "mac/MacAccessibility.hpp"
+#include "mac/MacEventMonitors.hpp"
+#include "mac/MacEventSystem.hpp"
+#include "mac/MacHotKeySystem.hpp"
+#include "mac/MacScreens.hpp"
 
 namespace quorvane {
 
@@ -31,7 +37,14 @@ struct AppState {
     MacPermissionProbe permissionProbe;
     MacWorkspace workspace;
     MacNotificationBus notifications{MacNotificationBus::Mode::inApplication};
-    Platform platform{preferences, scheduler, permissionProbe, workspace, notifications};
+    MacEventSystem events;
+    MacHotKeySystem hotKeys;
+    MacAccessibility accessibility;
+    MacEventMonitors eventMonitors;
+    MacScreens screens;
+    InputServices input{hotKeys, screens, scheduler};
+    Platform platform{preferences, scheduler,     permissionProbe, workspace, notifications, events,
+                      hotKeys,     accessibility, eventMonitors,   screens,   input};
     PermissionCenter permissionCenter{permissionProbe, scheduler, workspace};
     ToolRegistry registry{ToolCatalog::makeTools(platform), permissionCenter, preferences,
                           notifications};

@@ -4,8 +4,90 @@
 
 #include "mac/MacWorkspace.hpp"
 
+#include <cassert>
+#include <memory>
+
+#include "mac/CancellableHandler.hpp"
 #include "mac/MacFrameworks.h"
 #include "mac/MacStrings.hpp"
+
+namespace quorvane {
+
+namespace {
+
+RunningApplication describe(NSRunningApplication* app) {
+    RunningApplication result;
+    result.pid = static_cast<int>(app.processIdentifier);
+    result.bundleID = utf8String(app.bundleIdentifier);
+    // unconfirmed: check on a Mac first (localizedName, -[NSDate timeIntervalSinceReferenceDate]
+    // and -[NSURL absoluteString] are not in the fact sheet; the other properties are).
+    result.name = utf8String(app.localizedName);
+    result.activationPolicy =
+        static_cast<RunningApplication::ActivationPolicy>(app.activationPolicy);
+    if (NSDate* launched = app.launchDate) {
+        result.launchDate = launched.timeIntervalSinceReferenceDate;
+    }
+    result.hidden = app.hidden;
+    result.terminated = app.terminated;
+    result.bundleURL = utf8String(app.bundleURL.absoluteString);
+    return result;
+}
+
+NSNotificationName notificationName(WorkspaceNotification notification) {
+    switch (notification) {
+        case WorkspaceNotification::didLaunchApplication:
+            return NSWorkspaceDidLaunchApplicationNotification;
+        case WorkspaceNotification::didTerminateApplication:
+            return NSWorkspaceDidTerminateApplicationNotification;
+        case WorkspaceNotification::didActivateApplication:
+            return NSWorkspaceDidActivateApplicationNotification;
+        case WorkspaceNotification::activeSpaceDidChange:
+            return NSWorkspaceActiveSpaceDidChangeNotification;
+        case WorkspaceNotification::screensDidWake:
+            return NSWorkspaceScreensDidWakeNotification;
+        case WorkspaceNotification::didWake:
+            return NSWorkspaceDidWakeNotification;
+    }
+    return nil;
+}
+
+}  // namespace
+
+}  // namespace quorvane
+
+// Key-value observation needs an object that answers observeValueForKeyPath:; it only relays.
+@interface QuorvaneRunningApplicationsObserver : NSObject
+- (instancetype)initWithHandler:(std::function<void()>)handler;
+@end
+
+@implementation QuorvaneRunningApplicationsObserver {
+    std::function<void()> _handler;
+}
+
+- (instancetype)initWithHandler:(std::function<void()>)handler {
+    if ((self = [super init])) {
+        _handler = std::move(handler);
+    }
+    return self;
+}
+
+- (void)observeValueForKeyPath:(NSString*)keyPath
+                      ofObject:(id)object
+                        change:(NSDictionary<NSKeyValueChangeKey, id>*)change
+                       context:(void*)context {
+    (void)keyPath;
+    (void)object;
+    (void)change;
+    (void)context;
+    // Changes of the list are posted on the main thread.
+    // unconfirmed: check on a Mac first that the workspace sends them on the main thread.
+    assert([NSThread isMainThread]);
+    if (_handler) {
+        _handler();
+    }
+}
+
+@end
 
 namespace quorvane {
 
@@ -22,6 +104,116 @@ bool MacWorkspace::openURL(const std::string& url) {
             return false;
         }
         return [[NSWorkspace sharedWorkspace] openURL:target];
+    }
+}
+
+std::vector<RunningApplication> MacWorkspace::runningApplications() {
+    @autoreleasepool {
+        std::vector<RunningApplication> result;
+        // unconfirmed: check on a Mac first (-[NSWorkspace runningApplications] is not in the
+        // fact sheet).
+        for (NSRunningApplication* app in [[NSWorkspace sharedWorkspace] runningApplications]) {
+            result.push_back(describe(app));
+        }
+        return result;
+    }
+}
+
+std::optional<RunningApplication> MacWorkspace::runningApplication(int pid) {
+    @autoreleasepool {
+        NSRunningApplication* app =
+            [NSRunningApplication runningApplicationWithProcessIdentifier:static_cast<pid_t>(pid)];
+        return app ? std::optional(describe(app)) : std::nullopt;
+    }
+}
+
+std::optional<RunningApplication> MacWorkspace::frontmostApplication() {
+    @autoreleasepool {
+        // unconfirmed: check on a Mac first (-[NSWorkspace frontmostApplication] is not in the
+        // fact sheet).
+        NSRunningApplication* app = [[NSWorkspace sharedWorkspace] frontmostApplication];
+        return app ? std::optional(describe(app)) : std::nullopt;
+    }
+}
+
+int MacWorkspace::currentProcessID() {
+    return static_cast<int>([NSRunningApplication currentApplication].processIdentifier);
+}
+
+Subscription MacWorkspace::observe(WorkspaceNotification notification, Handler handler) {
+    @autoreleasepool {
+        auto observer = std::make_shared<CancellableHandler<Handler>>(std::move(handler));
+        // Workspace notifications go to the workspace's own centre, not the default one.
+        NSNotificationCenter* center = [[NSWorkspace sharedWorkspace] notificationCenter];
+        id<NSObject> token =
+            [center addObserverForName:notificationName(notification)
+                                object:nil
+                                 queue:[NSOperationQueue mainQueue]
+                            usingBlock:^(NSNotification* note) {
+                              assert([NSThread isMainThread]);
+                              // The handler may end this subscription, which can free this block.
+                              const auto running = observer;
+                              if (running->cancelled) {
+                                  return;
+                              }
+                              id app = note.userInfo[NSWorkspaceApplicationKey];
+                              if ([app isKindOfClass:[NSRunningApplication class]]) {
+                                  const RunningApplication described = describe(app);
+                                  running->handler(&described);
+                              } else {
+                                  running->handler(nullptr);
+                              }
+                            }];
+        return Subscription([observer, token] {
+            observer->cancelled = true;
+            [[[NSWorkspace sharedWorkspace] notificationCenter] removeObserver:token];
+        });
+    }
+}
+
+Subscription MacWorkspace::observeDistributed(const std::string& name,
+                                              std::function<void()> handler) {
+    @autoreleasepool {
+        NSString* notification = makeNSString(name);
+        if (!notification) {
+            return {};
+        }
+        auto observer =
+            std::make_shared<CancellableHandler<std::function<void()>>>(std::move(handler));
+        // unconfirmed: check on a Mac first (NSDistributedNotificationCenter is not in the fact
+        // sheet; the block-based observer is inherited from NSNotificationCenter).
+        id<NSObject> token = [[NSDistributedNotificationCenter defaultCenter]
+            addObserverForName:notification
+                        object:nil
+                         queue:[NSOperationQueue mainQueue]
+                    usingBlock:^(NSNotification*) {
+                      assert([NSThread isMainThread]);
+                      const auto running = observer;
+                      if (!running->cancelled) {
+                          running->handler();
+                      }
+                    }];
+        return Subscription([observer, token] {
+            observer->cancelled = true;
+            [[NSDistributedNotificationCenter defaultCenter] removeObserver:token];
+        });
+    }
+}
+
+Subscription MacWorkspace::observeRunningApplications(std::function<void()> handler) {
+    @autoreleasepool {
+        QuorvaneRunningApplicationsObserver* relay =
+            [[QuorvaneRunningApplicationsObserver alloc] initWithHandler:std::move(handler)];
+        // unconfirmed: check on a Mac first (key-value observation of runningApplications and
+        // -removeObserver:forKeyPath: are not in the fact sheet).
+        [[NSWorkspace sharedWorkspace] addObserver:relay
+                                        forKeyPath:@"runningApplications"
+                                           options:NSKeyValueObservingOptionNew
+                                           context:nullptr];
+        // The block keeps the relay alive until the observation is removed.
+        return Subscription([relay] {
+            [[NSWorkspace sharedWorkspace] removeObserver:relay forKeyPath:@"runningApplications"];
+        });
     }
 }
 

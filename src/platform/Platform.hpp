@@ -7,6 +7,12 @@ class PermissionProbe;
 class Preferences;
 class Scheduler;
 class Workspace;
+class EventSystem;
+class HotKeySystem;
+class Accessibility;
+class EventMonitors;
+class Screens;
+struct InputServices;
 
 // Every port, handed to the registry and the tools at construction. The app fills it with the
 // macOS implementations, the command line with the portable ones, tests with fakes.
@@ -16,6 +22,14 @@ struct Platform {
     PermissionProbe& permissionProbe;
     Workspace& workspace;
     NotificationBus& notifications;
+    EventSystem& events;
+    HotKeySystem& hotKeys;
+    Accessibility& accessibility;
+    EventMonitors& eventMonitors;
+    Screens& screens;
+    // Not a port: the process-wide input infrastructure built on the ports above (the hot-key
+    // centre, the HUD), handed around with them so every tool reaches the one instance.
+    InputServices& input;
 };
 
 }  // namespace quorvane

@@ -59,6 +59,16 @@ struct SettingsRow {
         std::function<std::string()> displayText;
         std::function<bool()> hasConflict;
         std::string conflictNotice;
+        // The recorder: a button titled by buttonTitle ("Record Shortcut", the shortcut, or
+        // "Type a shortcut…" while recording) that toggles recording, and a clear button.
+        // stopRecording is for the window closing while the recorder listens. restoreDefault
+        // is empty when the tool has no default shortcut.
+        std::function<bool()> isRecording;
+        std::function<std::string()> buttonTitle;
+        std::function<void()> toggleRecording;
+        std::function<void()> stopRecording;
+        std::function<void()> clear;
+        std::function<void()> restoreDefault;
     };
     struct AppEntry {
         std::string bundleID;

@@ -7,6 +7,8 @@
 #include "app/ToolCatalog.hpp"
 #include "base/Json.hpp"
 #include "cli/CommandHost.hpp"
+#include "input/ShortcutSetting.hpp"
+#include "platform/EventField.hpp"
 #include "portable/FilePreferences.hpp"
 #include "support/RecordingTool.hpp"
 #include "support/TemporaryDirectory.hpp"
@@ -141,6 +143,33 @@ TEST_F(CommandLineTest, SearchControlsAndSettingsWorkOnAnotherStore) {
     EXPECT_NE(page.out.find("Look\n  Shows the time.\n"), std::string::npos) << page.out;
     EXPECT_EQ(run({"--version"}).status, 0);
     EXPECT_NE(run({"--help"}).out.find(host.file.string()), std::string::npos);
+}
+
+// A tool with a global shortcut, built on the command line's own platform.
+struct LauncherTool : RecordingTool {
+    LauncherTool(std::vector<std::string>& journal, const Platform& platform)
+        : RecordingTool(journal, "launcher"),
+          shortcut(
+              platform, "launcher.shortcut", KeyCombo{49, modifierFlag::option, "Space"}, [] {},
+              [] {}) {}
+    SettingsPage settingsPage() override {
+        SettingsPage shown;
+        shown.add({"Shortcut", {shortcut.row("Open the launcher")}, ""});
+        return shown;
+    }
+    ShortcutSetting shortcut;
+};
+
+TEST_F(CommandLineTest, SettingsShowAToolsShortcutAsItsDisplayText) {
+    factory = [this](const Platform& platform) {
+        std::vector<std::unique_ptr<Tool>> tools;
+        tools.push_back(std::make_unique<LauncherTool>(journal, platform));
+        return tools;
+    };
+    const auto page = run({"settings", "launcher"});
+    EXPECT_EQ(page.status, 0) << page.err;
+    EXPECT_NE(page.out.find("Shortcut\n  Open the launcher: ⌥Space\n"), std::string::npos)
+        << page.out;
 }
 
 }  // namespace

@@ -1,9 +1,15 @@
 #pragma once
 
+#include "input/InputServices.hpp"
 #include "platform/Platform.hpp"
 #include "portable/InProcessNotificationBus.hpp"
 #include "portable/MemoryPreferences.hpp"
+#include "support/FakeAccessibility.hpp"
+#include "support/FakeEventMonitors.hpp"
+#include "support/FakeEventSystem.hpp"
+#include "support/FakeHotKeySystem.hpp"
 #include "support/FakePermissionProbe.hpp"
+#include "support/FakeScreens.hpp"
 #include "support/FakeWorkspace.hpp"
 #include "support/ManualScheduler.hpp"
 
@@ -16,9 +22,16 @@ struct FakePlatform {
     FakePermissionProbe permissionProbe;
     FakeWorkspace workspace;
     InProcessNotificationBus notifications;
+    FakeEventSystem events;
+    FakeHotKeySystem hotKeys;
+    FakeAccessibility accessibility;
+    FakeEventMonitors eventMonitors;
+    FakeScreens screens;
+    InputServices input{hotKeys, screens, scheduler};
 
     Platform platform() {
-        return {preferences, scheduler, permissionProbe, workspace, notifications};
+        return {preferences, scheduler,     permissionProbe, workspace, notifications, events,
+                hotKeys,     accessibility, eventMonitors,   screens,   input};
     }
 };
 

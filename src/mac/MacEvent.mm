@@ -1,0 +1,103 @@
+#if !__has_feature(objc_arc)
+#error "Compile with -fobjc-arc"
+#endif
+
+#include "mac/MacEvent.hpp"
+
+#include <vector>
+
+#include "mac/MacStrings.hpp"
+
+namespace quorvane {
+
+MacEvent MacEvent::borrow(CGEventRef event, NSEvent* appKitEvent) {
+    MacEvent result;
+    result.event_ = event;
+    result.appKitEvent_ = appKitEvent;
+    return result;
+}
+
+MacEvent MacEvent::own(CFRef<CGEventRef> event, CFRef<CGEventSourceRef> source) {
+    MacEvent result;
+    result.event_ = event.get();
+    result.owned_ = std::move(event);
+    result.source_ = std::move(source);
+    return result;
+}
+
+EventType MacEvent::type() const { return static_cast<EventType>(CGEventGetType(event_)); }
+
+void MacEvent::setType(EventType type) {
+    CGEventSetType(event_, static_cast<CGEventType>(raw(type)));
+}
+
+std::uint64_t MacEvent::flags() const {
+    return static_cast<std::uint64_t>(CGEventGetFlags(event_));
+}
+
+void MacEvent::setFlags(std::uint64_t flags) {
+    CGEventSetFlags(event_, static_cast<CGEventFlags>(flags));
+}
+
+Point MacEvent::location() const {
+    const CGPoint point = CGEventGetLocation(event_);
+    return {point.x, point.y};
+}
+
+void MacEvent::setLocation(Point location) {
+    CGEventSetLocation(event_, CGPointMake(location.x, location.y));
+}
+
+std::int64_t MacEvent::integerField(std::uint32_t field) const {
+    return CGEventGetIntegerValueField(event_, static_cast<CGEventField>(field));
+}
+
+void MacEvent::setIntegerField(std::uint32_t field, std::int64_t value) {
+    CGEventSetIntegerValueField(event_, static_cast<CGEventField>(field), value);
+}
+
+double MacEvent::doubleField(std::uint32_t field) const {
+    return CGEventGetDoubleValueField(event_, static_cast<CGEventField>(field));
+}
+
+void MacEvent::setDoubleField(std::uint32_t field, double value) {
+    CGEventSetDoubleValueField(event_, static_cast<CGEventField>(field), value);
+}
+
+std::string MacEvent::unicodeString() const {
+    if (!event_) {
+        return {};
+    }
+    // The first call only measures.
+    UniCharCount length = 0;
+    CGEventKeyboardGetUnicodeString(event_, 0, &length, nullptr);
+    if (length == 0) {
+        return {};
+    }
+    std::vector<UniChar> characters(length);
+    CGEventKeyboardGetUnicodeString(event_, length, &length, characters.data());
+    // unconfirmed: check on a Mac first (CFStringCreateWithCharacters is not in the fact sheet).
+    const auto text = CFRef<CFStringRef>::adopt(CFStringCreateWithCharacters(
+        kCFAllocatorDefault, characters.data(), static_cast<CFIndex>(length)));
+    return utf8String(text.get());
+}
+
+std::string MacEvent::charactersIgnoringModifiers() const {
+    // AppKit raises an exception when a non-key event is asked for its characters.
+    const EventType kind = type();
+    if (kind != EventType::keyDown && kind != EventType::keyUp) {
+        return {};
+    }
+    @autoreleasepool {
+        NSEvent* event = appKitEvent_;
+        if (!event && event_) {
+            // +eventWithCGEvent: retains the CGEvent.
+            event = [NSEvent eventWithCGEvent:event_];
+        }
+        // unconfirmed: check on a Mac first (charactersIgnoringModifiers is not in the fact
+        // sheet; Apple's reference says it ignores every modifier but shift).
+        return utf8String(event.charactersIgnoringModifiers);
+    }
+}
+
+}  // namespace quorvane

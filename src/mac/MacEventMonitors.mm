@@ -1,0 +1,63 @@
+#if !__has_feature(objc_arc)
+#error "Compile with -fobjc-arc"
+#endif
+
+#include "mac/MacEventMonitors.hpp"
+
+#include <cassert>
+#include <memory>
+
+#include "mac/CancellableHandler.hpp"
+#include "mac/MacEvent.hpp"
+#include "mac/MacFrameworks.h"
+
+namespace quorvane {
+
+Subscription MacEventMonitors::addGlobal(std::uint64_t mask, GlobalHandler handler) {
+    auto monitor = std::make_shared<CancellableHandler<GlobalHandler>>(std::move(handler));
+    id token = [NSEvent addGlobalMonitorForEventsMatchingMask:static_cast<NSEventMask>(mask)
+                                                      handler:^(NSEvent* event) {
+                                                        assert([NSThread isMainThread]);
+                                                        const auto running = monitor;
+                                                        if (running->cancelled) {
+                                                            return;
+                                                        }
+                                                        const MacEvent wrapped =
+                                                            MacEvent::borrow(event.CGEvent, event);
+                                                        running->handler(wrapped);
+                                                      }];
+    if (!token) {
+        return {};
+    }
+    return Subscription([monitor, token] {
+        monitor->cancelled = true;
+        [NSEvent removeMonitor:token];
+    });
+}
+
+Subscription MacEventMonitors::addLocal(std::uint64_t mask, LocalHandler handler) {
+    auto monitor = std::make_shared<CancellableHandler<LocalHandler>>(std::move(handler));
+    id token =
+        [NSEvent addLocalMonitorForEventsMatchingMask:static_cast<NSEventMask>(mask)
+                                              handler:^NSEvent*(NSEvent* event) {
+                                                assert([NSThread isMainThread]);
+                                                // The handler may remove this very monitor.
+                                                const auto running = monitor;
+                                                if (running->cancelled) {
+                                                    return event;
+                                                }
+                                                const MacEvent wrapped =
+                                                    MacEvent::borrow(event.CGEvent, event);
+                                                // nil stops the event: it is never dispatched.
+                                                return running->handler(wrapped) ? event : nil;
+                                              }];
+    if (!token) {
+        return {};
+    }
+    return Subscription([monitor, token] {
+        monitor->cancelled = true;
+        [NSEvent removeMonitor:token];
+    });
+}
+
+}  // namespace quorvane

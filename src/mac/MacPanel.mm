@@ -1,0 +1,170 @@
+#if !__has_feature(objc_arc)
+#error "Compile with -fobjc-arc"
+#endif
+
+#include "mac/MacPanel.hpp"
+
+#include "mac/MacStrings.hpp"
+#include "ui/LevelBar.hpp"
+
+// unconfirmed: check on a Mac first. Of the AppKit below only the panel's initializer, its style
+// mask, backing, level and collection behaviour values are in the fact sheet. NSAnimationContext,
+// the animator proxy, NSStackView, NSVisualEffectView, NSImageView, NSImageSymbolConfiguration,
+// NSTextField, NSFont's text styles, NSColor, layers and layout constraints were written from
+// Apple's reference.
+
+namespace quorvane {
+
+namespace {
+
+NSView* fixedSize(NSView* view, double width, double height) {
+    view.translatesAutoresizingMaskIntoConstraints = NO;
+    [view.widthAnchor constraintEqualToConstant:width].active = YES;
+    [view.heightAnchor constraintEqualToConstant:height].active = YES;
+    return view;
+}
+
+NSView* makeLevelBar(const LevelBar& bar) {
+    NSStackView* row = [[NSStackView alloc] init];
+    row.orientation = NSUserInterfaceLayoutOrientationHorizontal;
+    row.spacing = LevelBar::kSpacing;
+    const int filled = bar.filledSegments();
+    for (int index = 0; index < LevelBar::kSegments; ++index) {
+        NSView* segment =
+            fixedSize([[NSView alloc] init], LevelBar::kSegmentWidth, LevelBar::kSegmentHeight);
+        segment.wantsLayer = YES;
+        segment.layer.cornerRadius = LevelBar::kCornerRadius;
+        NSColor* color = [NSColor labelColor];
+        if (index >= filled) {
+            color = [color colorWithAlphaComponent:LevelBar::kUnfilledOpacity];
+        }
+        segment.layer.backgroundColor = color.CGColor;
+        [row addArrangedSubview:segment];
+    }
+    return row;
+}
+
+NSView* makeCard(const HUDCard& card) {
+    NSStackView* stack = [[NSStackView alloc] init];
+    stack.orientation = NSUserInterfaceLayoutOrientationVertical;
+    stack.spacing = HUDCard::kSpacing;
+    stack.edgeInsets = NSEdgeInsetsMake(HUDCard::kPadding, HUDCard::kPadding, HUDCard::kPadding,
+                                        HUDCard::kPadding);
+
+    NSImage* symbol = [NSImage imageWithSystemSymbolName:makeNSString(card.systemImage)
+                                accessibilityDescription:nil];
+    NSImageSymbolConfiguration* size =
+        [NSImageSymbolConfiguration configurationWithPointSize:HUDCard::kSymbolSize
+                                                        weight:NSFontWeightRegular];
+    NSImage* sized = [symbol imageWithSymbolConfiguration:size];
+    // An unknown symbol name gives no image; the card then shows its title alone.
+    NSImageView* image = [NSImageView imageViewWithImage:sized ? sized : [[NSImage alloc] init]];
+    image.translatesAutoresizingMaskIntoConstraints = NO;
+    [image.heightAnchor constraintEqualToConstant:HUDCard::kSymbolFrameHeight].active = YES;
+    [stack addArrangedSubview:image];
+
+    NSString* text = makeNSString(card.title);
+    NSTextField* title = [NSTextField labelWithString:text ? text : @""];
+    title.font = [NSFont preferredFontForTextStyle:NSFontTextStyleHeadline options:@{}];
+    title.alignment = NSTextAlignmentCenter;
+    [stack addArrangedSubview:title];
+
+    if (card.level) {
+        [stack addArrangedSubview:makeLevelBar(LevelBar{*card.level})];
+    }
+
+    NSVisualEffectView* background = [[NSVisualEffectView alloc] init];
+    background.material = NSVisualEffectMaterialPopover;
+    background.blendingMode = NSVisualEffectBlendingModeBehindWindow;
+    background.state = NSVisualEffectStateActive;
+    background.wantsLayer = YES;
+    background.layer.cornerRadius = HUDCard::kCornerRadius;
+    // Continuous corners (CALayer's cornerCurve) need QuartzCore's header; left out until that
+    // can be checked on a Mac.
+    background.layer.masksToBounds = YES;
+    background.translatesAutoresizingMaskIntoConstraints = NO;
+    stack.translatesAutoresizingMaskIntoConstraints = NO;
+    [background addSubview:stack];
+    [NSLayoutConstraint activateConstraints:@[
+        [stack.leadingAnchor constraintEqualToAnchor:background.leadingAnchor],
+        [stack.trailingAnchor constraintEqualToAnchor:background.trailingAnchor],
+        [stack.topAnchor constraintEqualToAnchor:background.topAnchor],
+        [stack.bottomAnchor constraintEqualToAnchor:background.bottomAnchor],
+        [background.widthAnchor constraintEqualToConstant:HUDCard::kWidth],
+    ]];
+
+    NSView* outer = [[NSView alloc] init];
+    [outer addSubview:background];
+    const CGFloat inset = HUDCard::kOuterPadding;
+    [NSLayoutConstraint activateConstraints:@[
+        [background.leadingAnchor constraintEqualToAnchor:outer.leadingAnchor constant:inset],
+        [outer.trailingAnchor constraintEqualToAnchor:background.trailingAnchor constant:inset],
+        [background.topAnchor constraintEqualToAnchor:outer.topAnchor constant:inset],
+        [outer.bottomAnchor constraintEqualToAnchor:background.bottomAnchor constant:inset],
+    ]];
+    return outer;
+}
+
+}  // namespace
+
+MacPanel::MacPanel() {
+    // Non-activating (style mask 128): showing it never takes focus from the user's app.
+    panel_ = [[NSPanel alloc] initWithContentRect:NSZeroRect
+                                        styleMask:NSWindowStyleMaskNonactivatingPanel
+                                          backing:NSBackingStoreBuffered
+                                            defer:NO];
+    panel_.level = NSStatusWindowLevel;
+    panel_.opaque = NO;
+    panel_.backgroundColor = [NSColor clearColor];
+    panel_.hasShadow = NO;
+    panel_.ignoresMouseEvents = YES;
+    panel_.releasedWhenClosed = NO;
+    // 337: on every Space, stationary, out of window cycling, over full-screen apps.
+    panel_.collectionBehavior =
+        NSWindowCollectionBehaviorCanJoinAllSpaces | NSWindowCollectionBehaviorStationary |
+        NSWindowCollectionBehaviorIgnoresCycle | NSWindowCollectionBehaviorFullScreenAuxiliary;
+}
+
+MacPanel::~MacPanel() {
+    *alive_ = false;
+    [panel_ orderOut:nil];
+}
+
+void MacPanel::setContent(const HUDCard& card) {
+    @autoreleasepool {
+        panel_.contentView = makeCard(card);
+    }
+}
+
+Size MacPanel::fittingSize() const {
+    const NSSize size = panel_.contentView.fittingSize;
+    return {size.width, size.height};
+}
+
+void MacPanel::setFrame(const Rect& frame) {
+    [panel_ setFrame:NSMakeRect(frame.origin.x, frame.origin.y, frame.size.width, frame.size.height)
+             display:YES];
+}
+
+void MacPanel::fadeTo(double alpha, Seconds duration, std::function<void()> completion) {
+    NSPanel* panel = panel_;
+    const std::shared_ptr<bool> alive = alive_;
+    [NSAnimationContext
+        runAnimationGroup:^(NSAnimationContext* context) {
+          context.duration = duration.count();
+          panel.animator.alphaValue = alpha;
+        }
+        completionHandler:^{
+          if (*alive && completion) {
+              completion();
+          }
+        }];
+}
+
+void MacPanel::orderFrontRegardless() { [panel_ orderFrontRegardless]; }
+
+void MacPanel::orderOut() { [panel_ orderOut:nil]; }
+
+bool MacPanel::isVisible() const { return panel_.visible; }
+
+}  // namespace quorvane

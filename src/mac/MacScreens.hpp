@@ -1,0 +1,17 @@
+#pragma once
+
+#include "platform/Screens.hpp"
+
+namespace quorvane {
+
+// NSScreen, the mouse and the HUD's panel.
+class MacScreens final : public Screens {
+public:
+    std::vector<Screen> screens() override;
+    std::optional<Screen> mainScreen() override;
+    Point mouseLocation() override;
+    void beep() override;
+    std::unique_ptr<Panel> makeFloatingPanel() override;
+};
+
+}  // namespace quorvane

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include "base/Point.hpp"
+#include "platform/Panel.hpp"
+#include "platform/Screen.hpp"
+
+namespace quorvane {
+
+// The displays, the mouse and the small on-screen things that are not windows of an app.
+class Screens {
+public:
+    virtual ~Screens() = default;
+
+    virtual std::vector<Screen> screens() = 0;
+    // The screen with the key window; nothing when there is no display at all.
+    virtual std::optional<Screen> mainScreen() = 0;
+    // In screen coordinates (bottom-left origin), like the frames.
+    virtual Point mouseLocation() = 0;
+    virtual void beep() = 0;
+    // A new, hidden floating panel; nothing where there is no window system.
+    virtual std::unique_ptr<Panel> makeFloatingPanel() = 0;
+};
+
+}  // namespace quorvane

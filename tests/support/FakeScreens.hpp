@@ -1,0 +1,69 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "platform/Screens.hpp"
+
+namespace quorvane {
+
+// A panel that keeps what it was told. A fade finishes when the test says so.
+struct FakePanel : Panel {
+    HUDCard content;
+    Size size{240, 180};
+    Rect frame;
+    double alpha = 0;
+    bool visible = false;
+    int frontCount = 0;
+    std::function<void()> pendingFade;
+
+    void setContent(const HUDCard& card) override { content = card; }
+    Size fittingSize() const override { return size; }
+    void setFrame(const Rect& rect) override { frame = rect; }
+    void fadeTo(double target, Seconds duration, std::function<void()> completion) override {
+        alpha = target;
+        if (duration == Seconds::zero()) {
+            if (completion) {
+                completion();
+            }
+            return;
+        }
+        pendingFade = std::move(completion);
+    }
+    void orderFrontRegardless() override {
+        visible = true;
+        ++frontCount;
+    }
+    void orderOut() override { visible = false; }
+    bool isVisible() const override { return visible; }
+
+    void finishFade() {
+        if (auto completion = std::exchange(pendingFade, nullptr)) {
+            completion();
+        }
+    }
+};
+
+struct FakeScreens : Screens {
+    std::vector<Screen> displays{{{0, 0, 1440, 900}, {0, 0, 1440, 875}}};
+    std::optional<std::size_t> mainIndex = 0;
+    Point mouse{100, 100};
+    int beeps = 0;
+    // The panels made so far; they belong to whoever asked for them.
+    std::vector<FakePanel*> panels;
+
+    std::vector<Screen> screens() override { return displays; }
+    std::optional<Screen> mainScreen() override {
+        return mainIndex ? std::optional(displays.at(*mainIndex)) : std::nullopt;
+    }
+    Point mouseLocation() override { return mouse; }
+    void beep() override { ++beeps; }
+    std::unique_ptr<Panel> makeFloatingPanel() override {
+        auto panel = std::make_unique<FakePanel>();
+        panels.push_back(panel.get());
+        return panel;
+    }
+};
+
+}  // namespace quorvane
