@@ -15,6 +15,7 @@
 #include "platform/Preferences.hpp"
 #include "portable/FilePreferences.hpp"
 #include "portable/InProcessNotificationBus.hpp"
+#include "portable/PortableMenuBar.hpp"
 #include "portable/PortablePermissionProbe.hpp"
 #include "portable/PortableWorkspace.hpp"
 #include "portable/SteadyScheduler.hpp"
@@ -55,6 +56,7 @@ struct Session {
     PortablePermissionProbe probe;
     PortableWorkspace workspace;
     InProcessNotificationBus notifications;
+    PortableMenuBar menuBar;
     std::unique_ptr<PermissionCenter> permissions;
     std::unique_ptr<ToolRegistry> registry;
 };
@@ -152,8 +154,8 @@ private:
         if (!session_.preferences) {
             throw CommandError(error);
         }
-        Platform platform{*session_.preferences, session_.scheduler, session_.probe,
-                          session_.workspace, session_.notifications};
+        Platform platform{*session_.preferences, session_.scheduler,     session_.probe,
+                          session_.workspace,    session_.notifications, session_.menuBar};
         session_.permissions = std::make_unique<PermissionCenter>(
             session_.probe, session_.scheduler, session_.workspace);
         std::vector<std::unique_ptr<Tool>> tools;

@@ -2,6 +2,7 @@
 
 namespace quorvane {
 
+class MenuBar;
 class NotificationBus;
 class PermissionProbe;
 class Preferences;
@@ -16,6 +17,7 @@ struct Platform {
     PermissionProbe& permissionProbe;
     Workspace& workspace;
     NotificationBus& notifications;
+    MenuBar& menuBar;
 };
 
 }  // namespace quorvane

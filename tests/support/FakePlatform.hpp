@@ -3,6 +3,7 @@
 #include "platform/Platform.hpp"
 #include "portable/InProcessNotificationBus.hpp"
 #include "portable/MemoryPreferences.hpp"
+#include "support/FakeMenuBar.hpp"
 #include "support/FakePermissionProbe.hpp"
 #include "support/FakeWorkspace.hpp"
 #include "support/ManualScheduler.hpp"
@@ -16,9 +17,12 @@ struct FakePlatform {
     FakePermissionProbe permissionProbe;
     FakeWorkspace workspace;
     InProcessNotificationBus notifications;
+    // What the fakes below were asked to do, in order.
+    std::vector<std::string> calls;
+    FakeMenuBar menuBar{calls};
 
     Platform platform() {
-        return {preferences, scheduler, permissionProbe, workspace, notifications};
+        return {preferences, scheduler, permissionProbe, workspace, notifications, menuBar};
     }
 };
 
