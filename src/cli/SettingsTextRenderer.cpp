@@ -3,16 +3,11 @@
 #include <cmath>
 #include <sstream>
 
+#include "base/Overloaded.hpp"
+
 namespace quorvane {
 
 namespace {
-
-template <class... Ts>
-struct Overloaded : Ts... {
-    using Ts::operator()...;
-};
-template <class... Ts>
-Overloaded(Ts...) -> Overloaded<Ts...>;
 
 std::string plainNumber(double value) {
     std::ostringstream out;
