@@ -7,6 +7,7 @@
 #include <memory>
 #include <utility>
 
+#include "mac/CancellableAction.hpp"
 #include "mac/MacFrameworks.h"
 #include "mac/MacStrings.hpp"
 #include "mac/MacViews.hpp"
@@ -15,11 +16,7 @@ namespace quorvane {
 
 namespace {
 
-struct Launch {
-    explicit Launch(std::function<void(const std::string&)> body) : done(std::move(body)) {}
-    bool cancelled = false;
-    std::function<void(const std::string&)> done;
-};
+using Launch = CancellableAction<const std::string&>;
 
 }  // namespace
 
@@ -47,10 +44,7 @@ Subscription MacAppInstance::launchNewInstance(std::function<void(const std::str
                                             : (error ? utf8String(error.localizedDescription)
                                                      : std::string("the system gave no reason"));
              runSoon(^{
-               const std::shared_ptr<Launch> running = launch;
-               if (!running->cancelled) {
-                   running->done(reason);
-               }
+               Launch::run(launch, reason);
              });
            }];
     return Subscription([launch] { launch->cancelled = true; });

@@ -8,6 +8,7 @@
 
 #include "base/Subscription.hpp"
 #include "mac/MacActionTarget.hpp"
+#include "mac/MacRefresher.hpp"
 #include "mac/MacPermissionCardView.hpp"
 #include "mac/MacViews.hpp"
 #include "ui/FirstRunModel.hpp"
@@ -31,7 +32,6 @@ constexpr CGFloat kWidth = 520;
     NSMutableArray* _cardTargets;
     NSMutableArray* _suggestionTargets;
     quorvane::CardAction _performCard;
-    BOOL _refreshQueued;
 }
 
 - (instancetype)initWithModel:(Model&)model {
@@ -87,23 +87,11 @@ constexpr CGFloat kWidth = 520;
 
     [self refresh];
     __weak QVFirstRunWindowController* weakSelf = self;
-    _changes = model.subscribe([weakSelf] { [weakSelf modelChanged]; });
+    QVRefresher* refresher = [[QVRefresher alloc] initWithRefresh:^{
+      [weakSelf refresh];
+    }];
+    _changes = model.subscribe([refresher] { [refresher request]; });
     return self;
-}
-
-- (void)modelChanged {
-    if (_refreshQueued) {
-        return;
-    }
-    _refreshQueued = YES;
-    __weak QVFirstRunWindowController* weakSelf = self;
-    quorvane::runSoon(^{
-      QVFirstRunWindowController* strongSelf = weakSelf;
-      if (strongSelf) {
-          strongSelf->_refreshQueued = NO;
-          [strongSelf refresh];
-      }
-    });
 }
 
 - (void)refresh {

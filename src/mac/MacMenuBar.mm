@@ -10,6 +10,7 @@
 #include <variant>
 
 #include "base/Overloaded.hpp"
+#include "mac/CancellableAction.hpp"
 #include "mac/MacActionTarget.hpp"
 #include "mac/MacFrameworks.h"
 #include "mac/MacMenuPanelView.hpp"
@@ -21,22 +22,11 @@ namespace quorvane {
 
 namespace {
 
-// Shared by a registered block and the Subscription that ends it. A notice or event already
-// queued for the main thread may still arrive after removal; the flag drops it.
-struct Callback {
-    explicit Callback(std::function<void()> body) : action(std::move(body)) {}
-    bool cancelled = false;
-    std::function<void()> action;
-};
+using Callback = CancellableAction<>;
 
 void run(const std::shared_ptr<Callback>& callback) {
     assert([NSThread isMainThread]);
-    // The action may end its own subscription, which can free the block that called here;
-    // the local copy keeps the action alive until it returns.
-    const std::shared_ptr<Callback> running = callback;
-    if (!running->cancelled) {
-        running->action();
-    }
+    Callback::run(callback);
 }
 
 class MacStatusItem final : public StatusItem {

@@ -8,6 +8,7 @@
 
 #include "base/Subscription.hpp"
 #include "mac/MacActionTarget.hpp"
+#include "mac/MacRefresher.hpp"
 #include "mac/MacViews.hpp"
 #include "ui/MenuModel.hpp"
 
@@ -28,7 +29,6 @@ constexpr CGFloat kPanelWidth = 3 * kTileWidth + 2 * 8;  // three tiles and thei
     NSStackView* _grid;
     NSMutableArray* _tileTargets;
     NSMutableArray* _targets;
-    BOOL _refreshQueued;
 }
 
 - (instancetype)initWithModel:(quorvane::MenuModel&)model {
@@ -64,7 +64,10 @@ constexpr CGFloat kPanelWidth = 3 * kTileWidth + 2 * 8;  // three tiles and thei
     [self rebuildTiles];
 
     __weak QVMenuPanelView* weakSelf = self;
-    _changes = model.subscribe([weakSelf] { [weakSelf modelChanged]; });
+    QVRefresher* refresher = [[QVRefresher alloc] initWithRefresh:^{
+      [weakSelf rebuildTiles];
+    }];
+    _changes = model.subscribe([refresher] { [refresher request]; });
     return self;
 }
 
@@ -79,21 +82,6 @@ constexpr CGFloat kPanelWidth = 3 * kTileWidth + 2 * 8;  // three tiles and thei
                    action();
                  }];
     return button;
-}
-
-- (void)modelChanged {
-    if (_refreshQueued) {
-        return;
-    }
-    _refreshQueued = YES;
-    __weak QVMenuPanelView* weakSelf = self;
-    quorvane::runSoon(^{
-      QVMenuPanelView* strongSelf = weakSelf;
-      if (strongSelf) {
-          strongSelf->_refreshQueued = NO;
-          [strongSelf rebuildTiles];
-      }
-    });
 }
 
 - (void)rebuildTiles {

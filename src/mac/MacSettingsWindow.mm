@@ -9,6 +9,7 @@
 
 #include "base/Subscription.hpp"
 #include "mac/MacActionTarget.hpp"
+#include "mac/MacRefresher.hpp"
 #include "mac/MacPermissionCardView.hpp"
 #include "mac/MacSettingsPageView.hpp"
 #include "mac/MacStrings.hpp"
@@ -48,7 +49,6 @@ NSControlStateValue stateValue(bool on) {
     NSMutableArray* _headerTargets;
     NSMutableArray* _cardTargets;
     quorvane::CardAction _performCard;
-    BOOL _refreshQueued;
     BOOL _reloadingSidebar;
 }
 
@@ -94,7 +94,10 @@ NSControlStateValue stateValue(bool on) {
 
     [self refresh];
     __weak QVSettingsWindowController* weakSelf = self;
-    _changes = model.subscribe([weakSelf] { [weakSelf modelChanged]; });
+    QVRefresher* refresher = [[QVRefresher alloc] initWithRefresh:^{
+      [weakSelf refresh];
+    }];
+    _changes = model.subscribe([refresher] { [refresher request]; });
     return self;
 }
 
@@ -151,21 +154,6 @@ NSControlStateValue stateValue(bool on) {
     [content addArrangedSubview:_cards];
     [content addArrangedSubview:_pageHolder];
     return quorvane::makeScrollView(content, 24);
-}
-
-- (void)modelChanged {
-    if (_refreshQueued) {
-        return;
-    }
-    _refreshQueued = YES;
-    __weak QVSettingsWindowController* weakSelf = self;
-    quorvane::runSoon(^{
-      QVSettingsWindowController* strongSelf = weakSelf;
-      if (strongSelf) {
-          strongSelf->_refreshQueued = NO;
-          [strongSelf refresh];
-      }
-    });
 }
 
 - (void)refresh {

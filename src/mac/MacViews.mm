@@ -78,20 +78,25 @@ NSImageView* makeSymbol(std::string_view systemImage, CGFloat pointSize) {
     return view;
 }
 
-NSStackView* makeColumn(CGFloat spacing) {
+namespace {
+
+NSStackView* makeStack(NSUserInterfaceLayoutOrientation orientation, NSLayoutAttribute alignment,
+                       CGFloat spacing) {
     NSStackView* stack = [NSStackView stackViewWithViews:@[]];
-    stack.orientation = NSUserInterfaceLayoutOrientationVertical;
-    stack.alignment = NSLayoutAttributeLeading;
+    stack.orientation = orientation;
+    stack.alignment = alignment;
     stack.spacing = spacing;
     return stack;
 }
 
+}  // namespace
+
+NSStackView* makeColumn(CGFloat spacing) {
+    return makeStack(NSUserInterfaceLayoutOrientationVertical, NSLayoutAttributeLeading, spacing);
+}
+
 NSStackView* makeRow(CGFloat spacing) {
-    NSStackView* stack = [NSStackView stackViewWithViews:@[]];
-    stack.orientation = NSUserInterfaceLayoutOrientationHorizontal;
-    stack.alignment = NSLayoutAttributeCenterY;
-    stack.spacing = spacing;
-    return stack;
+    return makeStack(NSUserInterfaceLayoutOrientationHorizontal, NSLayoutAttributeCenterY, spacing);
 }
 
 void removeArrangedViews(NSStackView* stack) {
