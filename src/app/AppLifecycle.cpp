@@ -29,8 +29,7 @@ void AppLifecycle::didFinishLaunching() {
                                                       platform_.scheduler, platform_.workspace);
     registry_ = std::make_unique<ToolRegistry>(makeTools_(platform_), *permissions_,
                                                platform_.preferences, platform_.notifications);
-    // Both callbacks are in place before the first reconcile, so nothing that reconcile
-    // starts can miss them.
+    // The registry never reconciles without its two callbacks, not even the first time.
     registry_->onNeedsSetup = [this](Tool& tool) { showTool(tool); };
     permissions_->onChange = [this] { registry_->reconcile(); };
     registry_->reconcile();

@@ -42,8 +42,8 @@ public:
                   const std::string& accessibilityDescription) override {
         NSStatusBarButton* button = item_.button;
         // unconfirmed: check on a Mac first (+[NSImage imageWithSystemSymbolName:
-        // accessibilityDescription:] is not in the fact sheet). It gives nil for a symbol this
-        // system lacks, hence the text.
+        // accessibilityDescription:], -setTemplate: and the button's image and title are not
+        // in the fact sheet). It gives nil for a symbol this system lacks, hence the text.
         NSImage* image = [NSImage imageWithSystemSymbolName:text(systemImage)
                                    accessibilityDescription:text(accessibilityDescription)];
         if (image) {
@@ -114,6 +114,8 @@ public:
 
     Subscription observeDidClose(std::function<void()> handler) override {
         auto callback = std::make_shared<Callback>(std::move(handler));
+        // unconfirmed: check on a Mac first (+[NSOperationQueue mainQueue] is not in the fact
+        // sheet).
         id<NSObject> token =
             [[NSNotificationCenter defaultCenter] addObserverForName:NSPopoverDidCloseNotification
                                                               object:popover_
