@@ -33,6 +33,8 @@ struct PermissionCard {
     std::vector<Button> buttons;
 
     static PermissionCard make(Permission permission, const PermissionCenter& center);
+    // Once granted there is nothing left to do: the steps, buttons and help are left out.
+    bool showsSteps() const { return state != State::granted; }
 };
 
 }  // namespace quorvane

@@ -20,6 +20,7 @@
 #include "portable/PortableEventMonitors.hpp"
 #include "portable/PortableEventSystem.hpp"
 #include "portable/PortableHotKeySystem.hpp"
+#include "portable/PortableMenuBar.hpp"
 #include "portable/PortablePermissionProbe.hpp"
 #include "portable/PortableScreens.hpp"
 #include "portable/PortableWorkspace.hpp"
@@ -67,6 +68,7 @@ struct Session {
     PortableEventMonitors eventMonitors;
     PortableScreens screens;
     InputServices input{hotKeys, screens, scheduler};
+    PortableMenuBar menuBar;
     std::unique_ptr<PermissionCenter> permissions;
     std::unique_ptr<ToolRegistry> registry;
 };
@@ -167,7 +169,7 @@ private:
         Platform platform{*session_.preferences, session_.scheduler,     session_.probe,
                           session_.workspace,    session_.notifications, session_.events,
                           session_.hotKeys,      session_.accessibility, session_.eventMonitors,
-                          session_.screens,      session_.input};
+                          session_.screens,      session_.menuBar,       session_.input};
         session_.permissions = std::make_unique<PermissionCenter>(
             session_.probe, session_.scheduler, session_.workspace);
         std::vector<std::unique_ptr<Tool>> tools;

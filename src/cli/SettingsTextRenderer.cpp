@@ -3,21 +3,21 @@
 #include <cmath>
 #include <sstream>
 
+#include "base/Overloaded.hpp"
+
 namespace quorvane {
 
 namespace {
-
-template <class... Ts>
-struct Overloaded : Ts... {
-    using Ts::operator()...;
-};
-template <class... Ts>
-Overloaded(Ts...) -> Overloaded<Ts...>;
 
 std::string plainNumber(double value) {
     std::ostringstream out;
     out << value;
     return out.str();
+}
+
+// An empty list or field still prints something, so a line never ends in a bare colon.
+std::string orNone(const std::string& text) {
+    return text.empty() ? "none" : text;
 }
 
 std::string joined(const std::vector<std::string>& items, const char* separator) {
@@ -63,7 +63,7 @@ std::string SettingsTextRenderer::renderRow(const SettingsRow& row) {
             [](const R::TextField& t) {
                 const std::string value = t.get();
                 return t.label + ": " +
-                       (value.empty() ? "(" + t.placeholder + ")" : "\"" + value + "\"");
+                       (value.empty() ? "(" + orNone(t.placeholder) + ")" : "\"" + value + "\"");
             },
             [](const R::Shortcut& s) {
                 const std::string text = s.displayText();
@@ -79,13 +79,13 @@ std::string SettingsTextRenderer::renderRow(const SettingsRow& row) {
                     names.push_back(app.name.empty() ? app.bundleID
                                                      : app.name + " (" + app.bundleID + ")");
                 }
-                return a.label + ": " + (names.empty() ? a.emptyText : joined(names, ", "));
+                return a.label + ": " + (names.empty() ? orNone(a.emptyText) : joined(names, ", "));
             },
             [](const R::ItemList& l) {
                 const auto items = l.items();
                 std::string text = l.label + ":";
                 if (items.empty()) {
-                    return text + " " + l.emptyText;
+                    return text + " " + orNone(l.emptyText);
                 }
                 for (const auto& item : items) {
                     text += "\n    - " + item;

@@ -4,18 +4,19 @@
 
 #include "mac/AppDelegate.hpp"
 
-#include <cstddef>
 #include <memory>
 
-#include "app/PermissionCenter.hpp"
+#include "app/AppLifecycle.hpp"
 #include "app/ToolCatalog.hpp"
-#include "app/ToolRegistry.hpp"
+#include "mac/MacAppInstance.hpp"
+#include "mac/MacAppWindows.hpp"
 #include "mac/MacFrameworks.h"
+#include "mac/MacLoginItem.hpp"
+#include "mac/MacMenuBar.hpp"
 #include "mac/MacNotificationBus.hpp"
 #include "mac/MacPermissionProbe.hpp"
 #include "mac/MacPreferences.hpp"
 #include "mac/MacScheduler.hpp"
-#include "mac/MacStrings.hpp"
 #include "mac/MacWorkspace.hpp"
 #include "platform/Platform.hpp"
 #include "input/InputServices.hpp"
@@ -27,10 +28,9 @@
 
 namespace quorvane {
 
-// Everything the running app is made of, in construction order: the ports, then the
-// permission centre (so the permissions have been read once before any tool exists), then the
-// tools and the registry that owns them. Members are destroyed in reverse, so each outlives its
-// users.
+// Everything the running app is made of: the ports first, then the lifecycle, which builds
+// the permission centre, the tools and the registry on launch. Members are destroyed in
+// reverse, so each outlives its users.
 struct AppState {
     MacPreferences preferences;
     MacScheduler scheduler;
@@ -42,26 +42,26 @@ struct AppState {
     MacAccessibility accessibility;
     MacEventMonitors eventMonitors;
     MacScreens screens;
+    MacMenuBar menuBar;
     InputServices input{hotKeys, screens, scheduler};
     Platform platform{preferences, scheduler,     permissionProbe, workspace, notifications, events,
-                      hotKeys,     accessibility, eventMonitors,   screens,   input};
-    PermissionCenter permissionCenter{permissionProbe, scheduler, workspace};
-    ToolRegistry registry{ToolCatalog::makeTools(platform), permissionCenter, preferences,
-                          notifications};
+                      hotKeys,     accessibility, eventMonitors,   screens,   menuBar,       input};
+    MacAppWindows windows;
+    MacAppInstance instance;
+    MacLoginItem loginItem;
+    AppLifecycle lifecycle{platform, {windows, instance, loginItem}, ToolCatalog::makeTools};
 };
 
 }  // namespace quorvane
 
-@interface QuorvaneAppDelegate : NSObject <NSApplicationDelegate, NSMenuDelegate>
+@interface QuorvaneAppDelegate : NSObject <NSApplicationDelegate>
 @end
 
-// unconfirmed: check on a Mac first. Of the AppKit used below, only the status item and the
-// activation policy are in the fact sheet; the NSApplicationDelegate and NSMenuDelegate
-// methods, NSMenu, NSMenuItem and NSControlStateValueOn are written from Apple's reference.
+// unconfirmed: check on a Mac first. Of the AppKit used below, only the activation policy is
+// in the fact sheet; the NSApplicationDelegate methods, NSMenu, NSMenuItem and the main menu
+// are written from Apple's reference.
 @implementation QuorvaneAppDelegate {
     std::unique_ptr<quorvane::AppState> _state;
-    // The status bar does not retain its items; this reference keeps Quorvane in the menu bar.
-    NSStatusItem* _statusItem;
 }
 
 - (void)applicationDidFinishLaunching:(NSNotification*)notification {
@@ -69,96 +69,64 @@ struct AppState {
     // Info.plist already says LSUIElement; saying it here too keeps an unbundled debug run
     // out of the Dock as well.
     [NSApp setActivationPolicy:NSApplicationActivationPolicyAccessory];
-
+    [self installMainMenu];
     _state = std::make_unique<quorvane::AppState>();
-    quorvane::ToolRegistry* registry = &_state->registry;
-    // Until the settings window exists there is nowhere to take the user: a tool that needs
-    // setting up stays switched on and waits.
-    registry->onNeedsSetup = [](quorvane::Tool&) {};
-    // A raw pointer is enough: the delegate owns the centre and the registry together and
-    // outlives both, and the centre only calls back from its poll timer on the run loop, never
-    // while they are being torn down.
-    _state->permissionCenter.onChange = [registry] { registry->reconcile(); };
-    registry->reconcile();
-
-    [self installStatusItem];
+    _state->lifecycle.didFinishLaunching();
 }
 
 - (void)applicationWillTerminate:(NSNotification*)notification {
     (void)notification;
     if (_state) {
-        _state->registry.stopAll();
+        _state->lifecycle.willTerminate();
     }
 }
 
-- (void)installStatusItem {
-    _statusItem = [[NSStatusBar systemStatusBar] statusItemWithLength:NSVariableStatusItemLength];
-    // unconfirmed: check on a Mac first (+[NSImage imageWithSystemSymbolName:
-    // accessibilityDescription:] and the "switch.2" symbol are not in the fact sheet). It gives
-    // nil for an unknown symbol, hence the text fallback.
-    NSImage* image = [NSImage imageWithSystemSymbolName:@"switch.2"
-                               accessibilityDescription:@"Quorvane"];
-    NSStatusBarButton* button = _statusItem.button;
-    if (image) {
-        // A template image follows the menu bar's light and dark appearance. (The property is
-        // named "template", a C++ keyword, so it is set through its method.)
-        [image setTemplate:YES];
-        button.image = image;
-    } else {
-        button.title = @"Quorvane";
-    }
-
-    NSMenu* menu = [[NSMenu alloc] initWithTitle:@"Quorvane"];
-    // Automatic enabling would ignore each item's own enabled flag.
-    menu.autoenablesItems = NO;
-    menu.delegate = self;
-    _statusItem.menu = menu;
-}
-
-// Rebuilt every time the menu opens, so it always shows the registry as it is now.
-- (void)menuNeedsUpdate:(NSMenu*)menu {
-    [menu removeAllItems];
+// Opening Quorvane again while it runs (from Finder or Spotlight) shows its settings: with
+// the menu-bar item hidden or crowded out, that is the way back in.
+- (BOOL)applicationShouldHandleReopen:(NSApplication*)sender hasVisibleWindows:(BOOL)flag {
+    (void)sender;
+    (void)flag;
     if (_state) {
-        const quorvane::ToolRegistry& registry = _state->registry;
-        const auto& tools = registry.tools();
-        for (std::size_t index = 0; index < tools.size(); ++index) {
-            const quorvane::Tool& tool = *tools[index];
-            NSString* title = quorvane::makeNSString(tool.name());
-            NSMenuItem* item = [[NSMenuItem alloc] initWithTitle:(title ? title : @"")
-                                                          action:@selector(toggleTool:)
-                                                   keyEquivalent:@""];
-            item.target = self;
-            // The tag carries the tool's position in the registry back to toggleTool:.
-            item.tag = static_cast<NSInteger>(index);
-            item.state = registry.enabledIDs().contains(tool.id()) ? NSControlStateValueOn
-                                                                   : NSControlStateValueOff;
-            item.enabled = tool.isAvailable();
-            [menu addItem:item];
-        }
-        [menu addItem:[NSMenuItem separatorItem]];
+        _state->lifecycle.showSettings();
     }
-    // ⌘Q: a one-letter key equivalent carries the Command modifier by default.
-    NSMenuItem* quit = [[NSMenuItem alloc] initWithTitle:@"Quit Quorvane"
-                                                  action:@selector(terminate:)
-                                           keyEquivalent:@"q"];
-    quit.target = NSApp;
-    [menu addItem:quit];
+    return NO;
 }
 
-- (void)toggleTool:(NSMenuItem*)sender {
-    if (!_state) {
-        return;
+// An accessory app shows no menu bar of its own, but the key equivalents of its main menu
+// still work in its windows: without an Edit menu, ⌘C, ⌘V and ⌘A do nothing in the settings
+// window's text fields.
+- (void)installMainMenu {
+    NSMenu* main = [[NSMenu alloc] initWithTitle:@""];
+    NSMenu* application = [[NSMenu alloc] initWithTitle:@"Quorvane"];
+    [application addItemWithTitle:@"Settings…" action:@selector(showSettings:) keyEquivalent:@","]
+        .target = self;
+    [application addItemWithTitle:@"Close Window"
+                           action:@selector(performClose:)
+                    keyEquivalent:@"w"];
+    [application addItemWithTitle:@"Quit Quorvane" action:@selector(terminate:) keyEquivalent:@"q"];
+    NSMenu* edit = [[NSMenu alloc] initWithTitle:@"Edit"];
+    [edit addItemWithTitle:@"Undo" action:@selector(undo:) keyEquivalent:@"z"];
+    [edit addItemWithTitle:@"Redo" action:@selector(redo:) keyEquivalent:@"Z"];
+    [edit addItem:[NSMenuItem separatorItem]];
+    [edit addItemWithTitle:@"Cut" action:@selector(cut:) keyEquivalent:@"x"];
+    [edit addItemWithTitle:@"Copy" action:@selector(copy:) keyEquivalent:@"c"];
+    [edit addItemWithTitle:@"Paste" action:@selector(paste:) keyEquivalent:@"v"];
+    [edit addItemWithTitle:@"Select All" action:@selector(selectAll:) keyEquivalent:@"a"];
+    for (NSMenu* submenu in @[ application, edit ]) {
+        NSMenuItem* item = [[NSMenuItem alloc] initWithTitle:submenu.title
+                                                      action:nil
+                                               keyEquivalent:@""];
+        item.submenu = submenu;
+        [main addItem:item];
     }
-    quorvane::ToolRegistry& registry = _state->registry;
-    const NSInteger index = sender.tag;
-    if (index < 0 || static_cast<std::size_t>(index) >= registry.tools().size()) {
-        return;
+    NSApp.mainMenu = main;
+}
+
+- (void)showSettings:(id)sender {
+    (void)sender;
+    if (_state) {
+        _state->lifecycle.showSettings();
     }
-    quorvane::Tool& tool = *registry.tools()[static_cast<std::size_t>(index)];
-    if (!tool.isAvailable()) {
-        return;
-    }
-    registry.setEnabled(!registry.enabledIDs().contains(tool.id()), tool, true);
 }
 
 @end

@@ -11,3 +11,5 @@
 #include <Carbon/Carbon.h>
 #include <CoreFoundation/CoreFoundation.h>
 #include <CoreGraphics/CoreGraphics.h>
+// unconfirmed: check on a Mac first (the umbrella name; only SMAppService.h itself was read).
+#import <ServiceManagement/ServiceManagement.h>

@@ -12,20 +12,14 @@
 #include <memory>
 #include <utility>
 
+#include "mac/CancellableAction.hpp"
 #include "mac/MacFrameworks.h"
 
 namespace quorvane {
 
 namespace {
 
-// Shared by the scheduled block and the Timer that can cancel it. An NSTimer that is already
-// due, or a block already queued on the run loop, cannot be taken back; the flag makes it a
-// no-op instead.
-struct Callback {
-    explicit Callback(std::function<void()> body) : action(std::move(body)) {}
-    bool cancelled = false;
-    std::function<void()> action;
-};
+using Callback = CancellableAction<>;
 
 Timer scheduleTimer(Seconds interval, bool repeats, std::function<void()> action) {
     auto callback = std::make_shared<Callback>(std::move(action));
@@ -33,12 +27,8 @@ Timer scheduleTimer(Seconds interval, bool repeats, std::function<void()> action
     // +[NSRunLoop mainRunLoop] and NSRunLoopCommonModes are not in the fact sheet).
     void (^fire)(NSTimer*) = ^(NSTimer*) {
       assert([NSThread isMainThread]);
-      // Invalidating the timer from inside the action may free this block; the local copy
-      // keeps the action alive until it returns.
-      const std::shared_ptr<Callback> running = callback;
-      if (!running->cancelled) {
-          running->action();
-      }
+      // Invalidating the timer from inside the action may free this block.
+      Callback::run(callback);
     };
     NSTimer* timer = [NSTimer timerWithTimeInterval:interval.count() repeats:repeats block:fire];
     // The common modes include the event-tracking mode, so menus and live resizing do not
@@ -86,10 +76,7 @@ Timer MacScheduler::post(std::function<void()> action) {
     // the fact sheet). Common modes, so a post made during menu tracking still runs there.
     CFRunLoopPerformBlock(mainLoop, kCFRunLoopCommonModes, ^{
       assert([NSThread isMainThread]);
-      const std::shared_ptr<Callback> running = callback;
-      if (!running->cancelled) {
-          running->action();
-      }
+      Callback::run(callback);
     });
     // Queuing a block does not wake a sleeping run loop by itself.
     CFRunLoopWakeUp(mainLoop);

@@ -2,6 +2,7 @@
 
 namespace quorvane {
 
+class MenuBar;
 class NotificationBus;
 class PermissionProbe;
 class Preferences;
@@ -27,6 +28,7 @@ struct Platform {
     Accessibility& accessibility;
     EventMonitors& eventMonitors;
     Screens& screens;
+    MenuBar& menuBar;
     // Not a port: the process-wide input infrastructure built on the ports above (the hot-key
     // centre, the HUD), handed around with them so every tool reaches the one instance.
     InputServices& input;

@@ -8,6 +8,7 @@
 #include "support/FakeEventMonitors.hpp"
 #include "support/FakeEventSystem.hpp"
 #include "support/FakeHotKeySystem.hpp"
+#include "support/FakeMenuBar.hpp"
 #include "support/FakePermissionProbe.hpp"
 #include "support/FakeScreens.hpp"
 #include "support/FakeWorkspace.hpp"
@@ -27,11 +28,14 @@ struct FakePlatform {
     FakeAccessibility accessibility;
     FakeEventMonitors eventMonitors;
     FakeScreens screens;
+    // What the fakes below were asked to do, in order.
+    std::vector<std::string> calls;
+    FakeMenuBar menuBar{calls};
     InputServices input{hotKeys, screens, scheduler};
 
     Platform platform() {
         return {preferences, scheduler,     permissionProbe, workspace, notifications, events,
-                hotKeys,     accessibility, eventMonitors,   screens,   input};
+                hotKeys,     accessibility, eventMonitors,   screens,   menuBar,       input};
     }
 };
 

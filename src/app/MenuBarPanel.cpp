@@ -1,0 +1,57 @@
+#include "app/MenuBarPanel.hpp"
+
+namespace quorvane {
+
+MenuBarPanel::MenuBarPanel(MenuBar& menuBar, const PanelContent& content, double length)
+    : menuBar_(menuBar),
+      statusItem_(menuBar.makeStatusItem(length)),
+      popover_(menuBar.makePopover(content, MenuBar::PopoverBehavior::transient)) {
+    if (statusItem_->hasButton()) {
+        statusItem_->setAction([this] { toggle(); });
+    }
+    closeToken_ = popover_->observeDidClose([this] { didClose(); });
+}
+
+MenuBarPanel::~MenuBarPanel() {
+    // The observer goes before the popover is closed, so a did-close notice sent while closing
+    // cannot reach an owner that is being torn down: nothing is called back from here.
+    closeToken_.cancel();
+    outsideClickMonitor_.cancel();
+    close();
+    popover_.reset();
+    statusItem_.reset();
+}
+
+void MenuBarPanel::toggle() {
+    if (popover_->isShown()) {
+        popover_->performClose();
+        return;
+    }
+    if (!statusItem_->hasButton()) {
+        return;
+    }
+    if (onOpen) {
+        onOpen();
+    }
+    // An accessory app is not active on its own; without this the popover gets no keys.
+    menuBar_.activateApplication();
+    popover_->show(*statusItem_);
+    outsideClickMonitor_ =
+        menuBar_.addGlobalMonitor(kOutsideClickMask, [this] { popover_->performClose(); });
+}
+
+void MenuBarPanel::close() {
+    if (popover_->isShown()) {
+        popover_->performClose();
+    }
+}
+
+void MenuBarPanel::didClose() {
+    // Every way of closing ends here, so the monitor lives exactly while the popover shows.
+    outsideClickMonitor_.cancel();
+    if (onClose) {
+        onClose();
+    }
+}
+
+}  // namespace quorvane

@@ -1,0 +1,53 @@
+#if !__has_feature(objc_arc)
+#error "Compile with -fobjc-arc"
+#endif
+
+#include "mac/MacAppInstance.hpp"
+
+#include <memory>
+#include <utility>
+
+#include "mac/CancellableAction.hpp"
+#include "mac/MacFrameworks.h"
+#include "mac/MacStrings.hpp"
+#include "mac/MacViews.hpp"
+
+namespace quorvane {
+
+namespace {
+
+using Launch = CancellableAction<const std::string&>;
+
+}  // namespace
+
+void MacAppInstance::terminate() {
+    // unconfirmed: check on a Mac first (-[NSApplication terminate:] is not in the fact
+    // sheet). It runs applicationWillTerminate: and then ends the process.
+    [NSApp terminate:nil];
+}
+
+Subscription MacAppInstance::launchNewInstance(std::function<void(const std::string&)> done) {
+    auto launch = std::make_shared<Launch>(std::move(done));
+    // unconfirmed: check on a Mac first (NSWorkspaceOpenConfiguration, its
+    // createsNewApplicationInstance, -openApplicationAtURL:configuration:completionHandler: and
+    // NSBundle's bundleURL are from Apple's reference, not the fact sheet). The reference says the
+    // handler runs on a concurrent queue, hence the hop to the main loop.
+    NSWorkspaceOpenConfiguration* configuration = [NSWorkspaceOpenConfiguration configuration];
+    configuration.createsNewApplicationInstance = YES;
+    NSURL* bundle = [NSBundle mainBundle].bundleURL;
+    [[NSWorkspace sharedWorkspace]
+        openApplicationAtURL:bundle
+               configuration:configuration
+           completionHandler:^(NSRunningApplication* application, NSError* error) {
+             const std::string reason = application
+                                            ? std::string()
+                                            : (error ? utf8String(error.localizedDescription)
+                                                     : std::string("the system gave no reason"));
+             runSoon(^{
+               Launch::run(launch, reason);
+             });
+           }];
+    return Subscription([launch] { launch->cancelled = true; });
+}
+
+}  // namespace quorvane

@@ -1,0 +1,132 @@
+#if !__has_feature(objc_arc)
+#error "Compile with -fobjc-arc"
+#endif
+
+#include "mac/MacFirstRunWindow.hpp"
+
+#include <string>
+
+#include "base/Subscription.hpp"
+#include "mac/MacActionTarget.hpp"
+#include "mac/MacRefresher.hpp"
+#include "mac/MacPermissionCardView.hpp"
+#include "mac/MacViews.hpp"
+#include "ui/FirstRunModel.hpp"
+
+namespace {
+
+using Model = quorvane::FirstRunModel;
+
+constexpr CGFloat kWidth = 520;
+
+}  // namespace
+
+// unconfirmed: check on a Mac first. NSWindowController, the window delegate's
+// windowWillClose:, NSButton's key equivalent and checkbox state are not in the fact sheet.
+@implementation QVFirstRunWindowController {
+    Model* _model;
+    quorvane::Subscription _changes;
+    NSStackView* _cards;
+    NSStackView* _suggestions;
+    NSMutableArray* _targets;
+    NSMutableArray* _cardTargets;
+    NSMutableArray* _suggestionTargets;
+    quorvane::CardAction _performCard;
+}
+
+- (instancetype)initWithModel:(Model&)model {
+    NSWindow* window =
+        [[NSWindow alloc] initWithContentRect:NSMakeRect(0, 0, kWidth + 48, 640)
+                                    styleMask:NSWindowStyleMaskTitled | NSWindowStyleMaskClosable |
+                                              NSWindowStyleMaskResizable
+                                      backing:NSBackingStoreBuffered
+                                        defer:NO];
+    window.title = quorvane::text(Model::kTitle);
+    window.releasedWhenClosed = NO;
+    self = [super initWithWindow:window];
+    if (!self) {
+        return nil;
+    }
+    _model = &model;
+    _targets = [NSMutableArray array];
+    _cardTargets = [NSMutableArray array];
+    _suggestionTargets = [NSMutableArray array];
+    Model* target = _model;
+    _performCard = ^(quorvane::Permission permission, quorvane::PermissionCard::Action action) {
+      target->performCardAction(permission, action);
+    };
+    window.delegate = self;
+
+    NSStackView* content = quorvane::makeColumn(14);
+    [content addArrangedSubview:quorvane::makeHeading(Model::kTitle, 22)];
+    [content addArrangedSubview:quorvane::makeWrappingLabel(Model::kIntro, kWidth)];
+    [content addArrangedSubview:quorvane::makeHeading(Model::kPermissionsTitle, 15)];
+    [content addArrangedSubview:quorvane::makeSecondaryLabel(Model::kPermissionsIntro, kWidth)];
+    _cards = quorvane::makeColumn(12);
+    [content addArrangedSubview:_cards];
+    [content addArrangedSubview:quorvane::makeHeading(Model::kPickTitle, 15)];
+    _suggestions = quorvane::makeColumn(10);
+    [content addArrangedSubview:_suggestions];
+
+    NSButton* finish = [NSButton buttonWithTitle:quorvane::text(Model::kFinishTitle)
+                                          target:nil
+                                          action:nil];
+    // Return presses it.
+    finish.keyEquivalent = @"\r";
+    [QVActionTarget bind:finish
+                    keep:_targets
+                 handler:^(id) {
+                   target->finish();
+                 }];
+    [content addArrangedSubview:finish];
+
+    NSScrollView* scroll = quorvane::makeScrollView(content, 24);
+    [window.contentView addSubview:scroll];
+    quorvane::pinEdges(scroll, window.contentView, 0);
+    [window center];
+
+    [self refresh];
+    __weak QVFirstRunWindowController* weakSelf = self;
+    QVRefresher* refresher = [[QVRefresher alloc] initWithRefresh:^{
+      [weakSelf refresh];
+    }];
+    _changes = model.subscribe([refresher] { [refresher request]; });
+    return self;
+}
+
+- (void)refresh {
+    quorvane::fillPermissionCards(_cards, _model->cards(), _model->cardNotice(), _performCard,
+                                  _cardTargets, kWidth);
+    quorvane::removeArrangedViews(_suggestions);
+    [_suggestionTargets removeAllObjects];
+    const auto suggestions = _model->suggestions();
+    if (suggestions.empty()) {
+        [_suggestions
+            addArrangedSubview:quorvane::makeSecondaryLabel(Model::kNothingToPick, kWidth)];
+    }
+    Model* model = _model;
+    for (const auto& suggestion : suggestions) {
+        NSButton* box = [NSButton checkboxWithTitle:quorvane::text(suggestion.name)
+                                             target:nil
+                                             action:nil];
+        box.state = suggestion.isPicked ? NSControlStateValueOn : NSControlStateValueOff;
+        const std::string toolID = suggestion.toolID;
+        [QVActionTarget bind:box
+                        keep:_suggestionTargets
+                     handler:^(id) {
+                       model->setPicked(toolID, box.state == NSControlStateValueOn);
+                     }];
+        NSStackView* entry = quorvane::makeColumn(2);
+        [entry addArrangedSubview:box];
+        [entry addArrangedSubview:quorvane::makeSecondaryLabel(suggestion.summary, kWidth - 20)];
+        [_suggestions addArrangedSubview:entry];
+    }
+}
+
+- (void)windowWillClose:(NSNotification*)notification {
+    (void)notification;
+    // Closed without "Get Started": not shown again, and nothing is switched on.
+    _model->dismiss();
+}
+
+@end

@@ -1,0 +1,188 @@
+#if !__has_feature(objc_arc)
+#error "Compile with -fobjc-arc"
+#endif
+
+#include "mac/MacMenuBar.hpp"
+
+#include <cassert>
+#include <memory>
+#include <utility>
+#include <variant>
+
+#include "base/Overloaded.hpp"
+#include "mac/CancellableAction.hpp"
+#include "mac/MacActionTarget.hpp"
+#include "mac/MacFrameworks.h"
+#include "mac/MacMenuPanelView.hpp"
+#include "mac/MacSettingsPageView.hpp"
+#include "mac/MacViews.hpp"
+#include "ui/PanelContent.hpp"
+
+namespace quorvane {
+
+namespace {
+
+using Callback = CancellableAction<>;
+
+void run(const std::shared_ptr<Callback>& callback) {
+    assert([NSThread isMainThread]);
+    Callback::run(callback);
+}
+
+class MacStatusItem final : public StatusItem {
+public:
+    explicit MacStatusItem(double length)
+        : item_([[NSStatusBar systemStatusBar] statusItemWithLength:length]),
+          targets_([NSMutableArray array]) {}
+    ~MacStatusItem() override { [[NSStatusBar systemStatusBar] removeStatusItem:item_]; }
+
+    bool hasButton() const override { return item_.button != nil; }
+
+    void setImage(const std::string& systemImage,
+                  const std::string& accessibilityDescription) override {
+        NSStatusBarButton* button = item_.button;
+        // unconfirmed: check on a Mac first (+[NSImage imageWithSystemSymbolName:
+        // accessibilityDescription:], -setTemplate: and the button's image and title are not
+        // in the fact sheet). It gives nil for a symbol this system lacks, hence the text.
+        NSImage* image = [NSImage imageWithSystemSymbolName:text(systemImage)
+                                   accessibilityDescription:text(accessibilityDescription)];
+        if (image) {
+            // A template image follows the menu bar's light and dark appearance. (The
+            // property is named "template", a C++ keyword, so it is set through its method.)
+            [image setTemplate:YES];
+            button.image = image;
+        } else {
+            button.title = text(accessibilityDescription);
+        }
+    }
+
+    void setAction(std::function<void()> action) override {
+        NSStatusBarButton* button = item_.button;
+        if (!button) {
+            return;
+        }
+        [targets_ removeAllObjects];
+        [QVActionTarget bind:button
+                        keep:targets_
+                     handler:^(id) {
+                       action();
+                     }];
+    }
+
+    NSStatusBarButton* button() const { return item_.button; }
+
+private:
+    // The status bar does not retain its items: this reference keeps the item in the menu bar.
+    NSStatusItem* item_;
+    NSMutableArray* targets_;
+};
+
+class MacPopover final : public Popover {
+public:
+    MacPopover(NSView* content, MenuBar::PopoverBehavior behavior)
+        : popover_([[NSPopover alloc] init]) {
+        popover_.behavior = static_cast<NSPopoverBehavior>(behavior);
+        // unconfirmed: check on a Mac first (NSViewController, -[NSPopover
+        // contentViewController], contentSize and shown are not in the fact sheet). A view
+        // controller given its view never looks for a nib.
+        NSViewController* controller = [[NSViewController alloc] init];
+        controller.view = content;
+        popover_.contentViewController = controller;
+    }
+    ~MacPopover() override {
+        if (popover_.shown) {
+            // unconfirmed: check on a Mac first (-[NSPopover close] is not in the fact sheet).
+            // Closes at once, without the animation performClose: plays.
+            [popover_ close];
+        }
+    }
+
+    bool isShown() const override { return popover_.shown; }
+
+    void show(StatusItem& anchor) override {
+        auto* item = dynamic_cast<MacStatusItem*>(&anchor);
+        NSStatusBarButton* button = item ? item->button() : nil;
+        if (!button) {
+            return;
+        }
+        popover_.contentSize = popover_.contentViewController.view.fittingSize;
+        // NSRectEdgeMinY (1): in the status bar's unflipped button, below the item.
+        [popover_ showRelativeToRect:button.bounds ofView:button preferredEdge:NSRectEdgeMinY];
+    }
+
+    void performClose() override { [popover_ performClose:nil]; }
+
+    Subscription observeDidClose(std::function<void()> handler) override {
+        auto callback = std::make_shared<Callback>(std::move(handler));
+        // unconfirmed: check on a Mac first (+[NSOperationQueue mainQueue] is not in the fact
+        // sheet).
+        id<NSObject> token =
+            [[NSNotificationCenter defaultCenter] addObserverForName:NSPopoverDidCloseNotification
+                                                              object:popover_
+                                                               queue:[NSOperationQueue mainQueue]
+                                                          usingBlock:^(NSNotification*) {
+                                                            run(callback);
+                                                          }];
+        return Subscription([callback, token] {
+            callback->cancelled = true;
+            [[NSNotificationCenter defaultCenter] removeObserver:token];
+        });
+    }
+
+private:
+    NSPopover* popover_;
+};
+
+NSView* makeContentView(const PanelContent& content) {
+    return std::visit(Overloaded{
+                          [](const PanelContent::Page& page) -> NSView* {
+                              QVSettingsPageView* view = [[QVSettingsPageView alloc]
+                                  initWithPage:page.make ? page.make() : SettingsPage {}
+                                        source:page.source
+                                         width:page.width];
+                              view.edgeInsets = NSEdgeInsetsMake(12, 12, 12, 12);
+                              return view;
+                          },
+                          [](MenuModel* menu) -> NSView* {
+                              if (!menu) {
+                                  return [[NSView alloc] initWithFrame:NSZeroRect];
+                              }
+                              return [[QVMenuPanelView alloc] initWithModel:*menu];
+                          },
+                      },
+                      content.kind);
+}
+
+}  // namespace
+
+std::unique_ptr<StatusItem> MacMenuBar::makeStatusItem(double length) {
+    return std::make_unique<MacStatusItem>(length);
+}
+
+std::unique_ptr<Popover> MacMenuBar::makePopover(const PanelContent& content,
+                                                 PopoverBehavior behavior) {
+    return std::make_unique<MacPopover>(makeContentView(content), behavior);
+}
+
+Subscription MacMenuBar::addGlobalMonitor(std::uint64_t eventMask, std::function<void()> handler) {
+    auto callback = std::make_shared<Callback>(std::move(handler));
+    id monitor = [NSEvent addGlobalMonitorForEventsMatchingMask:static_cast<NSEventMask>(eventMask)
+                                                        handler:^(NSEvent*) {
+                                                          // Hop to the main loop before
+                                                          // touching the panel.
+                                                          runSoon(^{
+                                                            run(callback);
+                                                          });
+                                                        }];
+    if (!monitor) {
+        return {};
+    }
+    return Subscription([callback, monitor] {
+        callback->cancelled = true;
+        [NSEvent removeMonitor:monitor];
+    });
+}
+
+void MacMenuBar::activateApplication() { [NSApp activate]; }
+
+}  // namespace quorvane

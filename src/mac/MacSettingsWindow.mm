@@ -1,0 +1,284 @@
+#if !__has_feature(objc_arc)
+#error "Compile with -fobjc-arc"
+#endif
+
+#include "mac/MacSettingsWindow.hpp"
+
+#include <cstdint>
+#include <vector>
+
+#include "base/Subscription.hpp"
+#include "mac/MacActionTarget.hpp"
+#include "mac/MacRefresher.hpp"
+#include "mac/MacPermissionCardView.hpp"
+#include "mac/MacSettingsPageView.hpp"
+#include "mac/MacStrings.hpp"
+#include "mac/MacViews.hpp"
+#include "ui/SettingsWindowModel.hpp"
+
+namespace {
+
+using Model = quorvane::SettingsWindowModel;
+using SidebarKind = Model::SidebarRow::Kind;
+
+constexpr CGFloat kSidebarWidth = 230;
+constexpr CGFloat kPageWidth = 520;
+
+NSControlStateValue stateValue(bool on) {
+    return on ? NSControlStateValueOn : NSControlStateValueOff;
+}
+
+}  // namespace
+
+// unconfirmed: check on a Mac first. The window (beyond its initializer and style masks),
+// NSWindowController, NSSearchField, NSTableView with its data source and delegate methods,
+// NSTableColumn, NSSwitch, NSIndexSet, the table's source-list style and the stack views'
+// fill distribution are not in the fact sheet.
+@implementation QVSettingsWindowController {
+    Model* _model;
+    quorvane::Subscription _changes;
+    std::vector<Model::SidebarRow> _rows;
+    NSSearchField* _search;
+    NSTableView* _sidebar;
+    NSTextField* _noResults;
+    NSStackView* _header;
+    NSStackView* _cards;
+    NSStackView* _pageHolder;
+    std::uint64_t _pageGeneration;
+    NSMutableArray* _targets;
+    NSMutableArray* _headerTargets;
+    NSMutableArray* _cardTargets;
+    quorvane::CardAction _performCard;
+    BOOL _reloadingSidebar;
+}
+
+- (instancetype)initWithModel:(Model&)model {
+    NSWindow* window = [[NSWindow alloc]
+        initWithContentRect:NSMakeRect(0, 0, kSidebarWidth + kPageWidth + 80, 600)
+                  styleMask:NSWindowStyleMaskTitled | NSWindowStyleMaskClosable |
+                            NSWindowStyleMaskMiniaturizable | NSWindowStyleMaskResizable
+                    backing:NSBackingStoreBuffered
+                      defer:NO];
+    window.title = @"Quorvane Settings";
+    // The controller owns the window; closing it only hides it until it is shown again.
+    window.releasedWhenClosed = NO;
+    window.minSize = NSMakeSize(kSidebarWidth + 420, 420);
+    self = [super initWithWindow:window];
+    if (!self) {
+        return nil;
+    }
+    _model = &model;
+    _targets = [NSMutableArray array];
+    _headerTargets = [NSMutableArray array];
+    _cardTargets = [NSMutableArray array];
+    Model* target = _model;
+    _performCard = ^(quorvane::Permission permission, quorvane::PermissionCard::Action action) {
+      target->performCardAction(permission, action);
+    };
+
+    // The sidebar keeps its width; the page takes the rest, and both the full height.
+    NSStackView* root = quorvane::makeRow(0);
+    root.alignment = NSLayoutAttributeTop;
+    root.distribution = NSStackViewDistributionFill;
+    NSView* sidebar = [self makeSidebar];
+    NSView* page = [self makePage];
+    [root addArrangedSubview:sidebar];
+    [root addArrangedSubview:page];
+    [window.contentView addSubview:root];
+    quorvane::pinEdges(root, window.contentView, 0);
+    [NSLayoutConstraint activateConstraints:@[
+        [sidebar.heightAnchor constraintEqualToAnchor:root.heightAnchor],
+        [page.heightAnchor constraintEqualToAnchor:root.heightAnchor],
+    ]];
+    [window center];
+
+    [self refresh];
+    __weak QVSettingsWindowController* weakSelf = self;
+    QVRefresher* refresher = [[QVRefresher alloc] initWithRefresh:^{
+      [weakSelf refresh];
+    }];
+    _changes = model.subscribe([refresher] { [refresher request]; });
+    return self;
+}
+
+- (NSView*)makeSidebar {
+    _search = [[NSSearchField alloc] initWithFrame:NSZeroRect];
+    _search.placeholderString = quorvane::text(Model::kSearchPlaceholder);
+    Model* model = _model;
+    NSSearchField* search = _search;
+    [QVActionTarget bind:_search
+                    keep:_targets
+                 handler:^(id) {
+                   model->setQuery(quorvane::utf8String(search.stringValue));
+                 }];
+
+    _sidebar = [[NSTableView alloc] initWithFrame:NSZeroRect];
+    NSTableColumn* column = [[NSTableColumn alloc] initWithIdentifier:@"tools"];
+    column.resizingMask = NSTableColumnAutoresizingMask;
+    [_sidebar addTableColumn:column];
+    _sidebar.headerView = nil;
+    _sidebar.style = NSTableViewStyleSourceList;
+    _sidebar.columnAutoresizingStyle = NSTableViewFirstColumnOnlyAutoresizingStyle;
+    _sidebar.rowHeight = 26;
+    _sidebar.dataSource = self;
+    _sidebar.delegate = self;
+    NSScrollView* list = [[NSScrollView alloc] initWithFrame:NSZeroRect];
+    list.documentView = _sidebar;
+    list.hasVerticalScroller = YES;
+    list.drawsBackground = NO;
+
+    _noResults = quorvane::makeSecondaryLabel(Model::kNoResults, kSidebarWidth - 24);
+
+    NSStackView* sidebar = quorvane::makeColumn(8);
+    sidebar.edgeInsets = NSEdgeInsetsMake(12, 12, 12, 0);
+    // The list takes whatever height the search field and the notice leave.
+    sidebar.distribution = NSStackViewDistributionFill;
+    [sidebar addArrangedSubview:_search];
+    [sidebar addArrangedSubview:_noResults];
+    [sidebar addArrangedSubview:list];
+    [NSLayoutConstraint activateConstraints:@[
+        [sidebar.widthAnchor constraintEqualToConstant:kSidebarWidth],
+        [_search.widthAnchor constraintEqualToConstant:kSidebarWidth - 12],
+        [list.widthAnchor constraintEqualToConstant:kSidebarWidth - 12],
+        [list.heightAnchor constraintGreaterThanOrEqualToConstant:300],
+    ]];
+    return sidebar;
+}
+
+- (NSView*)makePage {
+    _header = quorvane::makeColumn(10);
+    _cards = quorvane::makeColumn(12);
+    _pageHolder = quorvane::makeColumn(0);
+    NSStackView* content = quorvane::makeColumn(24);
+    [content addArrangedSubview:_header];
+    [content addArrangedSubview:_cards];
+    [content addArrangedSubview:_pageHolder];
+    return quorvane::makeScrollView(content, 24);
+}
+
+- (void)refresh {
+    // Selecting rows from here would read as the user's selection; the flag keeps it out.
+    _reloadingSidebar = YES;
+    _rows = _model->sidebar();
+    [_sidebar reloadData];
+    if (const auto selected = _model->selectedRow()) {
+        [_sidebar selectRowIndexes:[NSIndexSet indexSetWithIndex:*selected]
+              byExtendingSelection:NO];
+    } else {
+        [_sidebar deselectAll:nil];
+    }
+    _reloadingSidebar = NO;
+    _noResults.hidden = !_rows.empty();
+    // Text being typed is the user's; the query only changes under them when a tool's page
+    // is opened from elsewhere.
+    if (_search.currentEditor == nil) {
+        _search.stringValue = quorvane::text(_model->query());
+    }
+
+    [self rebuildHeader];
+    quorvane::fillPermissionCards(_cards, _model->cards(), _model->cardNotice(), _performCard,
+                                  _cardTargets, kPageWidth);
+    if (_model->pageGeneration() != _pageGeneration) {
+        _pageGeneration = _model->pageGeneration();
+        quorvane::removeArrangedViews(_pageHolder);
+        [_pageHolder
+            addArrangedSubview:[[QVSettingsPageView alloc] initWithPage:_model->page()
+                                                                 source:_model->pageSource()
+                                                                  width:kPageWidth]];
+    }
+}
+
+- (void)rebuildHeader {
+    quorvane::removeArrangedViews(_header);
+    [_headerTargets removeAllObjects];
+    const Model::Header header = _model->header();
+    Model* model = _model;
+
+    NSStackView* titleColumn = quorvane::makeColumn(4);
+    [titleColumn addArrangedSubview:quorvane::makeHeading(header.title, 20)];
+    [titleColumn addArrangedSubview:quorvane::makeWrappingLabel(header.summary, kPageWidth - 60)];
+    if (!header.status.empty()) {
+        [titleColumn addArrangedSubview:quorvane::makeSecondaryLabel(header.status, kPageWidth)];
+    }
+    NSStackView* top = quorvane::makeRow(12);
+    top.alignment = NSLayoutAttributeTop;
+    [top addArrangedSubview:quorvane::makeSymbol(header.systemImage, 28)];
+    [top addArrangedSubview:titleColumn];
+    if (header.hasSwitch) {
+        NSSwitch* toggle = [[NSSwitch alloc] initWithFrame:NSZeroRect];
+        toggle.state = stateValue(header.isOn);
+        toggle.enabled = header.isSwitchable;
+        [QVActionTarget bind:toggle
+                        keep:_headerTargets
+                     handler:^(id) {
+                       model->setSwitch(toggle.state == NSControlStateValueOn);
+                     }];
+        [top addArrangedSubview:toggle];
+    }
+    [_header addArrangedSubview:top];
+
+    if (header.hasMenuToggle) {
+        NSButton* inMenu = [NSButton checkboxWithTitle:quorvane::text(Model::kShowInMenuLabel)
+                                                target:nil
+                                                action:nil];
+        inMenu.state = stateValue(header.isInMenu);
+        [QVActionTarget bind:inMenu
+                        keep:_headerTargets
+                     handler:^(id) {
+                       model->setInMenu(inMenu.state == NSControlStateValueOn);
+                     }];
+        [_header addArrangedSubview:inMenu];
+    }
+}
+
+- (NSInteger)numberOfRowsInTableView:(NSTableView*)tableView {
+    (void)tableView;
+    return static_cast<NSInteger>(_rows.size());
+}
+
+- (NSView*)tableView:(NSTableView*)tableView
+    viewForTableColumn:(NSTableColumn*)tableColumn
+                   row:(NSInteger)row {
+    (void)tableView;
+    (void)tableColumn;
+    const Model::SidebarRow& entry = _rows[static_cast<std::size_t>(row)];
+    if (entry.kind == SidebarKind::category) {
+        NSTextField* heading = quorvane::makeHeading(entry.title, 11);
+        heading.textColor = [NSColor secondaryLabelColor];
+        return heading;
+    }
+    NSStackView* line = quorvane::makeRow(6);
+    [line addArrangedSubview:quorvane::makeSymbol(entry.systemImage, 13)];
+    NSTextField* name = quorvane::makeLabel(entry.title);
+    name.lineBreakMode = NSLineBreakByTruncatingTail;
+    if (!entry.isAvailable) {
+        name.textColor = [NSColor tertiaryLabelColor];
+    }
+    [line addArrangedSubview:name];
+    if (entry.isOn) {
+        NSImageView* on = quorvane::makeSymbol("circle.fill", 7);
+        on.contentTintColor = [NSColor systemGreenColor];
+        [line addArrangedSubview:on];
+    }
+    return line;
+}
+
+- (BOOL)tableView:(NSTableView*)tableView isGroupRow:(NSInteger)row {
+    (void)tableView;
+    return _rows[static_cast<std::size_t>(row)].kind == SidebarKind::category;
+}
+
+- (BOOL)tableView:(NSTableView*)tableView shouldSelectRow:(NSInteger)row {
+    (void)tableView;
+    return _rows[static_cast<std::size_t>(row)].kind != SidebarKind::category;
+}
+
+- (void)tableViewSelectionDidChange:(NSNotification*)notification {
+    (void)notification;
+    const NSInteger row = _sidebar.selectedRow;
+    if (!_reloadingSidebar && row >= 0) {
+        _model->selectRow(static_cast<std::size_t>(row));
+    }
+}
+
+@end

@@ -1,0 +1,32 @@
+#include "portable/PortableMenuBar.hpp"
+
+namespace quorvane {
+
+namespace {
+
+class AbsentStatusItem : public StatusItem {
+public:
+    bool hasButton() const override { return false; }
+    void setImage(const std::string&, const std::string&) override {}
+    void setAction(std::function<void()>) override {}
+};
+
+class AbsentPopover : public Popover {
+public:
+    bool isShown() const override { return false; }
+    void show(StatusItem&) override {}
+    void performClose() override {}
+    Subscription observeDidClose(std::function<void()>) override { return {}; }
+};
+
+}  // namespace
+
+std::unique_ptr<StatusItem> PortableMenuBar::makeStatusItem(double) {
+    return std::make_unique<AbsentStatusItem>();
+}
+
+std::unique_ptr<Popover> PortableMenuBar::makePopover(const PanelContent&, PopoverBehavior) {
+    return std::make_unique<AbsentPopover>();
+}
+
+}  // namespace quorvane

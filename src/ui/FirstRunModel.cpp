@@ -1,0 +1,101 @@
+#include "ui/FirstRunModel.hpp"
+
+#include <algorithm>
+
+#include "app/PermissionCardActions.hpp"
+#include "app/PermissionCenter.hpp"
+#include "app/ToolRegistry.hpp"
+#include "platform/Preferences.hpp"
+
+namespace quorvane {
+
+FirstRunModel::FirstRunModel(ToolRegistry& registry, PermissionCardActions& cardActions,
+                             Preferences& preferences)
+    : registry_(registry), cardActions_(cardActions), preferences_(preferences) {
+    sources_.push_back(registry.permissions().subscribe([this] { publish(); }));
+    sources_.push_back(cardActions.subscribe([this] { publish(); }));
+}
+
+bool FirstRunModel::isNeeded(const Preferences& preferences) {
+    return !preferences.boolean(kDoneKey).value_or(false);
+}
+
+std::vector<PermissionCard> FirstRunModel::cards() const {
+    std::vector<PermissionCard> cards;
+    for (const auto permission : kAllPermissions) {
+        cards.push_back(PermissionCard::make(permission, registry_.permissions()));
+    }
+    return cards;
+}
+
+const std::string& FirstRunModel::cardNotice() const {
+    return cardActions_.lastError();
+}
+
+void FirstRunModel::performCardAction(Permission permission, PermissionCard::Action action) {
+    cardActions_.perform(permission, action);
+}
+
+std::vector<FirstRunModel::Suggestion> FirstRunModel::suggestions() const {
+    std::vector<const Tool*> chosen;
+    const auto offer = [&](const Tool* tool) {
+        if (tool != nullptr && tool->isAvailable() && chosen.size() < kMaxSuggestions &&
+            std::find(chosen.begin(), chosen.end(), tool) == chosen.end()) {
+            chosen.push_back(tool);
+        }
+    };
+    for (const char* id : kFavourites) {
+        offer(registry_.tool(id));
+    }
+    for (const auto& tool : registry_.tools()) {
+        offer(tool.get());
+    }
+    std::vector<Suggestion> suggestions;
+    for (const Tool* tool : chosen) {
+        suggestions.push_back({tool->id(), tool->name(), tool->summary(), tool->systemImage(),
+                               picked_.contains(tool->id())});
+    }
+    return suggestions;
+}
+
+void FirstRunModel::setPicked(std::string_view toolID, bool picked) {
+    const std::string id(toolID);
+    if (picked ? picked_.insert(id).second : picked_.erase(id) > 0) {
+        publish();
+    }
+}
+
+void FirstRunModel::finish() {
+    if (done_) {
+        return;
+    }
+    markDone();
+    // In registry order, like every start; only the first tool that wants setting up opens
+    // its page, so the settings window is not flipped through several pages at once.
+    bool setupOffered = false;
+    for (const auto& tool : registry_.tools()) {
+        if (!picked_.contains(tool->id()) || !tool->isAvailable()) {
+            continue;
+        }
+        const bool offer =
+            !setupOffered && (tool->needsSetup() || tool->opensSettingsWhenTurnedOn());
+        registry_.setEnabled(true, *tool, offer);
+        setupOffered = setupOffered || offer;
+    }
+}
+
+void FirstRunModel::dismiss() {
+    if (!done_) {
+        markDone();
+    }
+}
+
+void FirstRunModel::markDone() {
+    done_ = true;
+    preferences_.set(kDoneKey, true);
+    if (onFinish) {
+        onFinish();
+    }
+}
+
+}  // namespace quorvane

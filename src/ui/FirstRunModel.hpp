@@ -1,0 +1,84 @@
+#pragma once
+
+#include <array>
+#include <functional>
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "app/PermissionCard.hpp"
+#include "base/Observable.hpp"
+#include "base/Subscription.hpp"
+
+namespace quorvane {
+
+class PermissionCardActions;
+class Preferences;
+class ToolRegistry;
+
+// The welcome shown on the first launch: what Quorvane is, the permissions its tools ask for,
+// and a few tools to switch on right away. Once finished or closed it is not shown again.
+class FirstRunModel : public Observable {
+public:
+    static constexpr const char* kDoneKey = "app.firstRunDone";
+    static constexpr const char* kTitle = "Welcome to Quorvane";
+    static constexpr const char* kIntro =
+        "Quorvane lives in your menu bar and fixes small everyday annoyances with tools you "
+        "switch on one by one. A tool that is off leaves no trace, and you can change your "
+        "mind any time in Settings.";
+    static constexpr const char* kPermissionsTitle = "Permissions";
+    static constexpr const char* kPermissionsIntro =
+        "Some tools need macOS to allow them first. You can do this now or when you switch such "
+        "a tool on.";
+    static constexpr const char* kPickTitle = "Start with a few tools";
+    static constexpr const char* kNothingToPick =
+        "You'll find every tool in Settings, ready to switch on.";
+    static constexpr const char* kFinishTitle = "Get Started";
+    static constexpr std::size_t kMaxSuggestions = 6;
+    // The tools most people want first, offered when available, in this order.
+    static constexpr std::array<const char*, 8> kFavourites = {
+        "window-snap", "window-drag",   "clipboard-history",   "app-volume",
+        "keep-awake",  "battery-limit", "stop-focus-stealing", "hide-desktop-icons"};
+
+    struct Suggestion {
+        std::string toolID;
+        std::string name;
+        std::string summary;
+        std::string systemImage;
+        bool isPicked = false;
+    };
+
+    FirstRunModel(ToolRegistry& registry, PermissionCardActions& cardActions,
+                  Preferences& preferences);
+
+    // Only a stored true counts as done, so a damaged value shows the welcome again.
+    static bool isNeeded(const Preferences& preferences);
+
+    std::vector<PermissionCard> cards() const;
+    const std::string& cardNotice() const;
+    void performCardAction(Permission permission, PermissionCard::Action action);
+
+    // The favourites that are available, then other available tools in registry order.
+    std::vector<Suggestion> suggestions() const;
+    void setPicked(std::string_view toolID, bool picked);
+
+    // Switches the picked tools on and closes the welcome for good.
+    void finish();
+    // The window was closed without finishing: nothing is switched on.
+    void dismiss();
+    // Closes the window; set by the app.
+    std::function<void()> onFinish;
+
+private:
+    void markDone();
+
+    ToolRegistry& registry_;
+    PermissionCardActions& cardActions_;
+    Preferences& preferences_;
+    std::set<std::string> picked_;
+    bool done_ = false;
+    std::vector<Subscription> sources_;
+};
+
+}  // namespace quorvane

@@ -1,0 +1,90 @@
+#include "app/AppLifecycle.hpp"
+
+#include <gtest/gtest.h>
+
+#include "app/MenuBarPanel.hpp"
+#include "app/PermissionCenter.hpp"
+#include "support/LaunchedApp.hpp"
+
+namespace quorvane {
+namespace {
+
+using Calls = std::vector<std::string>;
+
+TEST(AppLifecycle, StartsUpInOrderAndShowsTheWelcomeOnlyOnTheFirstLaunch) {
+    LaunchedApp launched;
+    launched.add("alpha");
+    launched.add("beta");
+    launched.fakes.preferences.set("tool.beta.enabled", true);
+    AppLifecycle* app = nullptr;
+    // The tools are made after the permission centre exists and before the registry does.
+    AppLifecycle::ToolFactory factory = [&](const Platform&) {
+        launched.fakes.calls.push_back(std::string("tools") +
+                                       (app->permissions() ? ", permissions read" : "") +
+                                       (app->registry() ? ", registry made" : ""));
+        return std::move(launched.toolsToMake);
+    };
+    launched.app = std::make_unique<AppLifecycle>(
+        launched.fakes.platform(),
+        AppLifecycle::Shell{launched.shell, launched.shell, launched.shell}, factory);
+    app = launched.app.get();
+    EXPECT_TRUE(launched.fakes.calls.empty()) << "nothing happens before the launch";
+
+    app->didFinishLaunching();
+    EXPECT_EQ(launched.fakes.calls, (Calls{"tools, permissions read", "tidy:alpha", "start:beta",
+                                           "item", "show first run"}));
+    EXPECT_EQ(launched.fakes.menuBar.items.front()->image, AppLifecycle::kMenuImage);
+
+    launched.fakes.calls.clear();
+    app->didFinishLaunching();
+    EXPECT_TRUE(launched.fakes.calls.empty()) << "a second launch event builds nothing twice";
+
+    LaunchedApp again;
+    again.fakes.preferences.set(FirstRunModel::kDoneKey, true);
+    again.launch();
+    EXPECT_EQ(again.fakes.calls, (Calls{"item"}));
+}
+
+TEST(AppLifecycle, APermissionChangeReconcilesAndASetupNeedOpensTheToolsPage) {
+    LaunchedApp launched;
+    launched.add("remap", std::vector<Permission>{Permission::accessibility}).setupNeeded = true;
+    launched.fakes.preferences.set(FirstRunModel::kDoneKey, true);
+    launched.launch();
+    launched.fakes.menuBar.click();
+    launched.fakes.calls.clear();
+
+    launched.registry().setEnabled(true, launched.tool("remap"), true);
+    EXPECT_EQ(launched.fakes.calls, (Calls{"close popover", "remove monitor", "show settings"}));
+    EXPECT_EQ(launched.settings().selectedTool(), &launched.tool("remap"));
+
+    launched.fakes.permissionProbe.accessibility = true;
+    launched.fakes.scheduler.advance(PermissionCenter::kPollInterval);
+    EXPECT_EQ(launched.fakes.calls.back(), "start:remap");
+}
+
+TEST(AppLifecycle, TheMenuOpensSettingsAndQuitsAndQuittingStopsTheToolsInOrder) {
+    LaunchedApp launched;
+    launched.add("alpha");
+    launched.add("beta");
+    launched.add("gamma");
+    for (const char* id : {"gamma", "alpha"}) {
+        launched.fakes.preferences.set(ToolRegistry::enabledKey(id), true);
+    }
+    launched.fakes.preferences.set(FirstRunModel::kDoneKey, true);
+    launched.launch();
+    launched.fakes.menuBar.click();
+    launched.fakes.calls.clear();
+
+    launched.menu().openSettings();
+    EXPECT_EQ(launched.fakes.calls.back(), "show settings");
+    EXPECT_FALSE(launched.app->menuPanel()->isShown());
+
+    launched.fakes.calls.clear();
+    launched.menu().quit();
+    launched.app->willTerminate();
+    launched.app->willTerminate();
+    EXPECT_EQ(launched.fakes.calls, (Calls{"terminate", "stop:alpha", "stop:gamma"}));
+}
+
+}  // namespace
+}  // namespace quorvane

@@ -1,0 +1,97 @@
+#include "app/MenuBarPanel.hpp"
+
+#include <gtest/gtest.h>
+
+#include "support/FakePlatform.hpp"
+
+namespace quorvane {
+namespace {
+
+using Calls = std::vector<std::string>;
+
+struct Panel {
+    FakePlatform fakes;
+    std::unique_ptr<MenuBarPanel> panel = std::make_unique<MenuBarPanel>(
+        fakes.menuBar, PanelContent{PanelContent::Page{[] { return SettingsPage{}; }}});
+    int opened = 0;
+    int closed = 0;
+
+    Panel() {
+        panel->onOpen = [this] {
+            ++opened;
+            fakes.calls.push_back("onOpen");
+        };
+        panel->onClose = [this] {
+            ++closed;
+            fakes.calls.push_back("onClose");
+        };
+        fakes.calls.clear();
+    }
+};
+
+TEST(MenuBarPanel, TwoClicksOpenAndCloseOnceEach) {
+    Panel p;
+    p.fakes.menuBar.click();
+    EXPECT_TRUE(p.panel->isShown());
+    EXPECT_EQ(p.fakes.calls,
+              (Calls{"onOpen", "activate", "show popover", "add monitor 0x200000a"}));
+
+    p.fakes.calls.clear();
+    p.fakes.menuBar.click();
+    EXPECT_FALSE(p.panel->isShown());
+    EXPECT_EQ(p.fakes.calls, (Calls{"close popover", "remove monitor", "onClose"}));
+    EXPECT_EQ(p.opened, 1);
+    EXPECT_EQ(p.closed, 1);
+}
+
+TEST(MenuBarPanel, AClickInAnotherAppClosesItAndRemovesTheMonitor) {
+    Panel p;
+    p.fakes.menuBar.click();
+    p.fakes.menuBar.clickElsewhere(10);  // a key-down is not a click
+    EXPECT_TRUE(p.panel->isShown());
+
+    p.fakes.menuBar.clickElsewhere(25);  // other mouse button
+    EXPECT_FALSE(p.panel->isShown());
+    EXPECT_TRUE(p.fakes.menuBar.monitors.empty());
+    EXPECT_EQ(p.closed, 1);
+
+    p.fakes.menuBar.clickElsewhere(1);
+    EXPECT_EQ(p.closed, 1) << "no monitor is left to react";
+}
+
+TEST(MenuBarPanel, EveryWayOfClosingRemovesTheMonitorAndCallsBackOnce) {
+    Panel p;
+    p.fakes.menuBar.click();
+    p.fakes.menuBar.popovers.front()->dismiss();  // Escape
+    EXPECT_TRUE(p.fakes.menuBar.monitors.empty());
+
+    p.fakes.menuBar.click();
+    p.panel->close();
+    p.panel->close();
+    EXPECT_EQ(p.opened, 2);
+    EXPECT_EQ(p.closed, 2);
+    EXPECT_TRUE(p.fakes.menuBar.monitors.empty());
+}
+
+TEST(MenuBarPanel, DestroyingItWhileShownClosesItRemovesTheItemAndCallsNothing) {
+    Panel p;
+    p.fakes.menuBar.click();
+    p.fakes.calls.clear();
+    p.panel.reset();
+    EXPECT_EQ(p.fakes.calls, (Calls{"remove monitor", "close popover", "remove item"}));
+    EXPECT_EQ(p.closed, 0);
+    EXPECT_TRUE(p.fakes.menuBar.items.empty());
+    EXPECT_TRUE(p.fakes.menuBar.monitors.empty());
+}
+
+TEST(MenuBarPanel, AnItemWithoutAButtonNeverOpens) {
+    FakePlatform fakes;
+    fakes.menuBar.itemsHaveButtons = false;
+    MenuBarPanel panel(fakes.menuBar, PanelContent{static_cast<MenuModel*>(nullptr)});
+    panel.toggle();
+    EXPECT_FALSE(panel.isShown());
+    EXPECT_TRUE(fakes.menuBar.monitors.empty());
+}
+
+}  // namespace
+}  // namespace quorvane

@@ -1,0 +1,127 @@
+#pragma once
+
+#include <algorithm>
+#include <cstdint>
+#include <cstdio>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "base/HandlerList.hpp"
+#include "platform/MenuBar.hpp"
+#include "ui/PanelContent.hpp"
+
+namespace quorvane {
+
+// A menu bar that writes what it is asked to do into a journal ("item", "remove item",
+// "show popover", "close popover", "activate", "add monitor 0x200000a", "remove monitor"),
+// with the clicks a user would make. Closing a popover sends its did-close notice at once.
+class FakeMenuBar : public MenuBar {
+public:
+    struct Item : StatusItem {
+        Item(FakeMenuBar& owner, bool withButton) : bar(owner), button(withButton) {}
+        ~Item() override {
+            bar.calls.push_back("remove item");
+            std::erase(bar.items, this);
+        }
+        bool hasButton() const override { return button; }
+        void setImage(const std::string& systemImage, const std::string&) override {
+            image = systemImage;
+        }
+        void setAction(std::function<void()> newAction) override { action = std::move(newAction); }
+
+        FakeMenuBar& bar;
+        bool button;
+        std::string image;
+        std::function<void()> action;
+    };
+
+    struct Panel : Popover {
+        Panel(FakeMenuBar& owner, const PanelContent& what) : bar(owner), content(what) {}
+        ~Panel() override { std::erase(bar.popovers, this); }
+        bool isShown() const override { return shown; }
+        void show(StatusItem&) override {
+            bar.calls.push_back("show popover");
+            shown = true;
+        }
+        void performClose() override {
+            if (shown) {
+                bar.calls.push_back("close popover");
+                dismiss();
+            }
+        }
+        Subscription observeDidClose(std::function<void()> handler) override {
+            return didClose.add(std::move(handler));
+        }
+        // Closed by the system itself: Escape, or a click in another of the app's windows.
+        void dismiss() {
+            shown = false;
+            didClose.call();
+        }
+
+        FakeMenuBar& bar;
+        PanelContent content;
+        bool shown = false;
+        HandlerList<> didClose;
+    };
+
+    explicit FakeMenuBar(std::vector<std::string>& journal) : calls(journal) {}
+
+    std::unique_ptr<StatusItem> makeStatusItem(double) override {
+        calls.push_back("item");
+        auto item = std::make_unique<Item>(*this, itemsHaveButtons);
+        items.push_back(item.get());
+        return item;
+    }
+    std::unique_ptr<Popover> makePopover(const PanelContent& content, PopoverBehavior) override {
+        auto popover = std::make_unique<Panel>(*this, content);
+        popovers.push_back(popover.get());
+        return popover;
+    }
+    Subscription addGlobalMonitor(std::uint64_t mask, std::function<void()> handler) override {
+        char text[32];
+        std::snprintf(text, sizeof text, "add monitor 0x%llx",
+                      static_cast<unsigned long long>(mask));
+        calls.push_back(text);
+        const std::uint64_t id = nextMonitor++;
+        monitors.push_back({id, mask, std::move(handler)});
+        return Subscription([this, id] {
+            calls.push_back("remove monitor");
+            std::erase_if(monitors, [id](const Monitor& m) { return m.id == id; });
+        });
+    }
+    void activateApplication() override { calls.push_back("activate"); }
+
+    // A click on an item's button.
+    void click(std::size_t item = 0) {
+        if (item < items.size() && items[item]->action) {
+            items[item]->action();
+        }
+    }
+    // A mouse-down of this event type in another application.
+    void clickElsewhere(int eventType = 1) {
+        const auto snapshot = monitors;
+        for (const auto& monitor : snapshot) {
+            const bool live = std::any_of(monitors.begin(), monitors.end(),
+                                          [&](const Monitor& m) { return m.id == monitor.id; });
+            if (live && (monitor.mask >> eventType & 1U) != 0) {
+                monitor.handler();
+            }
+        }
+    }
+
+    struct Monitor {
+        std::uint64_t id;
+        std::uint64_t mask;
+        std::function<void()> handler;
+    };
+    std::vector<std::string>& calls;
+    bool itemsHaveButtons = true;
+    std::vector<Item*> items;
+    std::vector<Panel*> popovers;
+    std::vector<Monitor> monitors;
+    std::uint64_t nextMonitor = 1;
+};
+
+}  // namespace quorvane
