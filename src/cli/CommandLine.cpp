@@ -15,7 +15,9 @@
 #include "platform/Preferences.hpp"
 #include "portable/FilePreferences.hpp"
 #include "portable/InProcessNotificationBus.hpp"
+#include "portable/PortableAudioHardware.hpp"
 #include "portable/PortablePermissionProbe.hpp"
+#include "portable/PortableProcessFacts.hpp"
 #include "portable/PortableWorkspace.hpp"
 #include "portable/SteadyScheduler.hpp"
 
@@ -55,6 +57,8 @@ struct Session {
     PortablePermissionProbe probe;
     PortableWorkspace workspace;
     InProcessNotificationBus notifications;
+    PortableAudioHardware audioHardware;
+    PortableProcessFacts processFacts;
     std::unique_ptr<PermissionCenter> permissions;
     std::unique_ptr<ToolRegistry> registry;
 };
@@ -152,8 +156,9 @@ private:
         if (!session_.preferences) {
             throw CommandError(error);
         }
-        Platform platform{*session_.preferences, session_.scheduler, session_.probe,
-                          session_.workspace, session_.notifications};
+        Platform platform{*session_.preferences, session_.scheduler,     session_.probe,
+                          session_.workspace,    session_.notifications, session_.audioHardware,
+                          session_.processFacts};
         session_.permissions = std::make_unique<PermissionCenter>(
             session_.probe, session_.scheduler, session_.workspace);
         std::vector<std::unique_ptr<Tool>> tools;

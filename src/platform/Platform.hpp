@@ -2,9 +2,11 @@
 
 namespace quorvane {
 
+class AudioHardware;
 class NotificationBus;
 class PermissionProbe;
 class Preferences;
+class ProcessFacts;
 class Scheduler;
 class Workspace;
 
@@ -16,6 +18,8 @@ struct Platform {
     PermissionProbe& permissionProbe;
     Workspace& workspace;
     NotificationBus& notifications;
+    AudioHardware& audioHardware;
+    ProcessFacts& processFacts;
 };
 
 }  // namespace quorvane

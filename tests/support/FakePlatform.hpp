@@ -3,7 +3,9 @@
 #include "platform/Platform.hpp"
 #include "portable/InProcessNotificationBus.hpp"
 #include "portable/MemoryPreferences.hpp"
+#include "support/FakeAudioHardware.hpp"
 #include "support/FakePermissionProbe.hpp"
+#include "support/FakeProcessFacts.hpp"
 #include "support/FakeWorkspace.hpp"
 #include "support/ManualScheduler.hpp"
 
@@ -16,9 +18,12 @@ struct FakePlatform {
     FakePermissionProbe permissionProbe;
     FakeWorkspace workspace;
     InProcessNotificationBus notifications;
+    FakeAudioHardware audioHardware;
+    FakeProcessFacts processFacts;
 
     Platform platform() {
-        return {preferences, scheduler, permissionProbe, workspace, notifications};
+        return {preferences,   scheduler,     permissionProbe, workspace,
+                notifications, audioHardware, processFacts};
     }
 };
 
