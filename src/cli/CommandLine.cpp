@@ -10,6 +10,7 @@
 #include "base/Json.hpp"
 #include "cli/CommandHost.hpp"
 #include "cli/DormantTool.hpp"
+#include "cli/EqCommand.hpp"
 #include "cli/SettingsTextRenderer.hpp"
 #include "platform/Platform.hpp"
 #include "platform/Preferences.hpp"
@@ -105,6 +106,13 @@ public:
         }
         const std::string command = rest.front();
         const std::vector<std::string> operands(rest.begin() + 1, rest.end());
+        if (command == "eq") {
+            std::string error;
+            if (!EqCommand::run(operands, out_, error)) {
+                throw CommandError(error);
+            }
+            return 0;
+        }
         checkShape(command, operands);
         openSession(usePrefsFile, prefsPath);
 
@@ -321,7 +329,8 @@ std::string CommandLine::usage() {
            "  controls                   the tools with a tile in the menu, in order\n"
            "  controls add ID            add a tool's tile at the end of the menu's grid\n"
            "  controls remove ID         remove a tool's tile\n"
-           "  settings ID                a tool's settings page, as text\n"
+           "  settings ID                a tool's settings page, as text\n" +
+           EqCommand::usage() +
            "\n"
            "Options:\n"
            "  --prefs FILE               use this preferences file instead of Quorvane's own\n"
