@@ -10,10 +10,12 @@
 #include "app/PermissionCenter.hpp"
 #include "app/ToolCatalog.hpp"
 #include "app/ToolRegistry.hpp"
+#include "mac/MacAudioHardware.hpp"
 #include "mac/MacFrameworks.h"
 #include "mac/MacNotificationBus.hpp"
 #include "mac/MacPermissionProbe.hpp"
 #include "mac/MacPreferences.hpp"
+#include "mac/MacProcessFacts.hpp"
 #include "mac/MacScheduler.hpp"
 #include "mac/MacStrings.hpp"
 #include "mac/MacWorkspace.hpp"
@@ -31,7 +33,10 @@ struct AppState {
     MacPermissionProbe permissionProbe;
     MacWorkspace workspace;
     MacNotificationBus notifications{MacNotificationBus::Mode::inApplication};
-    Platform platform{preferences, scheduler, permissionProbe, workspace, notifications};
+    MacAudioHardware audioHardware;
+    MacProcessFacts processFacts;
+    Platform platform{preferences,   scheduler,     permissionProbe, workspace,
+                      notifications, audioHardware, processFacts};
     PermissionCenter permissionCenter{permissionProbe, scheduler, workspace};
     ToolRegistry registry{ToolCatalog::makeTools(platform), permissionCenter, preferences,
                           notifications};

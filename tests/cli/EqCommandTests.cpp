@@ -78,11 +78,14 @@ TEST(EqRender, TheRenderOfAGeneratedSignalMatchesItsGoldenFile) {
     const auto expected = samples(golden);
     const auto actual = samples(dir / "out.wav");
     ASSERT_EQ(actual.size(), expected.size());
+    // Another compiler's rounding (fused multiply-adds on Apple silicon) moves samples by up to
+    // 3e-4, fed back through the low bands' filters: the golden file allows for that and no more.
+    double squares = 0;
     for (std::size_t i = 0; i < actual.size(); ++i) {
-        // Room for another compiler's rounding (fused multiply-adds on Apple silicon), far
-        // below anything a changed filter, gain or limiter would show.
-        ASSERT_NEAR(actual[i], expected[i], 1e-4f) << "sample " << i;
+        ASSERT_NEAR(actual[i], expected[i], 1e-3f) << "sample " << i;
+        squares += (actual[i] - expected[i]) * (actual[i] - expected[i]);
     }
+    EXPECT_LT(std::sqrt(squares / static_cast<double>(actual.size())), 1e-4);
 }
 
 TEST(EqRender, EveryInputLayoutComesOutAsFloatOfTheSameShape) {
