@@ -6,6 +6,7 @@
 
 #include <cassert>
 #include <cstddef>
+#include <cstdint>
 #include <map>
 #include <span>
 #include <utility>
@@ -39,16 +40,15 @@ namespace {
     return {address.selector, address.scope, address.element};
 }
 
-// Shared by a listener block and its registration.
-struct Listener {
-    explicit Listener(std::function<void()> body) : handler(std::move(body)) {}
-    bool cancelled = false;
-    std::function<void()> handler;
-};
-
 }  // namespace
 
 struct MacAudioHardware::Registrations {
+    // Shared by a listener block and its registration.
+    struct Listener {
+        explicit Listener(std::function<void()> body) : handler(std::move(body)) {}
+        bool cancelled = false;
+        std::function<void()> handler;
+    };
     struct Entry {
         AudioObjectPropertyListenerBlock block;
         std::shared_ptr<Listener> listener;
@@ -108,12 +108,12 @@ OSStatus MacAudioHardware::addPropertyListener(AudioObjectID object,
                                                const AudioPropertyAddress& address,
                                                std::function<void()> handler,
                                                ListenerID& outListener) {
-    auto listener = std::make_shared<Listener>(std::move(handler));
+    auto listener = std::make_shared<Registrations::Listener>(std::move(handler));
     AudioObjectPropertyListenerBlock block = ^(UInt32, const ::AudioObjectPropertyAddress*) {
       assert([NSThread isMainThread]);
       // The handler may remove this very listener; the local copy keeps it alive until it
       // returns.
-      const std::shared_ptr<Listener> running = listener;
+      const std::shared_ptr<Registrations::Listener> running = listener;
       if (!running->cancelled) {
           running->handler();
       }
