@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <numeric>
 
 #include "audio/EqualizerEngine.hpp"
 #include "audio/EqualizerState.hpp"
@@ -52,9 +53,7 @@ Source sourceFor(std::span<const AudioBufferView> input, std::size_t firstTap,
             input[index].dataByteSize / kSampleBytes};
 }
 
-// Writes gain × input (× the preamp when equalizing) into the output buffer. The gain moves in
-// a straight line from `current` at the first frame towards `target`, which it reaches at the
-// first frame of the next cycle.
+// What the gain pass needs to know about the cycle.
 struct GainPass {
     std::span<const AudioBufferView> input;
     std::size_t firstTap;
@@ -65,26 +64,65 @@ struct GainPass {
     float preamp;
 };
 
+float sanitized(float x) {
+    // A stray infinity or NaN from an app would stay in the filter memory for good.
+    return std::isfinite(x) ? x : 0.0f;
+}
+
+// gain × x, then × the preamp when equalizing, for `count` samples `stride` apart. The gain is
+// `current` throughout, or a straight line from `current` at frame 0 towards `target`, which it
+// reaches at the first frame of the next cycle.
+template <bool kRamps, bool kEqualizing>
+void scale(const GainPass& pass, const float* in, std::size_t inStride, float* out,
+           std::size_t outStride, std::size_t count, std::size_t frames) {
+    for (std::size_t f = 0; f < count; ++f) {
+        const float gain = kRamps ? pass.current + (pass.target - pass.current) *
+                                                       static_cast<float>(f) /
+                                                       static_cast<float>(frames)
+                                  : pass.current;
+        float s = gain * sanitized(in[f * inStride]);
+        if constexpr (kEqualizing) {
+            s *= pass.preamp;
+        }
+        out[f * outStride] = s;
+    }
+}
+
+template <bool kRamps>
+void scale(const GainPass& pass, const float* in, std::size_t inStride, float* out,
+           std::size_t outStride, std::size_t count, std::size_t frames) {
+    if (pass.equalizing) {
+        scale<kRamps, true>(pass, in, inStride, out, outStride, count, frames);
+    } else {
+        scale<kRamps, false>(pass, in, inStride, out, outStride, count, frames);
+    }
+}
+
 void applyGain(const GainPass& pass, float* out, std::size_t frames, std::size_t channels,
                std::size_t base) {
     const bool ramps = pass.target != pass.current;
+    // The usual case, an interleaved tap laid out like the output buffer at a steady gain:
+    // one run over all samples.
+    if (!ramps && pass.tapBufferCount == 1 && base == 0 && pass.firstTap < pass.input.size() &&
+        pass.input[pass.firstTap].numberChannels == channels) {
+        const Source source = sourceFor(pass.input, pass.firstTap, 1, 0);
+        const std::size_t available = std::min(frames, source.frames) * channels;
+        if (source.data) {
+            scale<false>(pass, source.data, 1, out, 1, available, frames);
+        }
+        std::fill(out + (source.data ? available : 0), out + frames * channels, 0.0f);
+        return;
+    }
     for (std::size_t c = 0; c < channels; ++c) {
         const Source source = sourceFor(pass.input, pass.firstTap, pass.tapBufferCount, base + c);
-        for (std::size_t f = 0; f < frames; ++f) {
-            float x = f < source.frames ? source.data[f * source.stride] : 0.0f;
-            // A stray infinity or NaN from an app would stay in the filter memory for good.
-            if (!std::isfinite(x)) {
-                x = 0.0f;
-            }
-            const float gain = ramps ? pass.current + (pass.target - pass.current) *
-                                                          static_cast<float>(f) /
-                                                          static_cast<float>(frames)
-                                     : pass.current;
-            float s = gain * x;
-            if (pass.equalizing) {
-                s *= pass.preamp;
-            }
-            out[f * channels + c] = s;
+        const std::size_t available = std::min(frames, source.frames);
+        if (ramps) {
+            scale<true>(pass, source.data, source.stride, out + c, channels, available, frames);
+        } else {
+            scale<false>(pass, source.data, source.stride, out + c, channels, available, frames);
+        }
+        for (std::size_t f = available; f < frames; ++f) {
+            out[f * channels + c] = 0.0f;
         }
     }
 }
@@ -114,61 +152,85 @@ void equalizeFrames(float* out, std::size_t frames, std::size_t channels, std::s
 // The same arithmetic, reordered for speed. Frame by frame, each section waits for the one
 // before it, so ten sections form one long dependency chain per sample. Here section b works on
 // frame t − b while section b − 1 works on frame t − b + 1: within one step every (section,
-// channel) lane is independent, and the compiler can run the lanes side by side. Each lane still
-// computes exactly what the frame-by-frame loop computes, in the same order.
+// channel) lane is independent, and the compiler runs the lanes side by side in vectors. Each
+// lane still computes exactly what the frame-by-frame loop computes, in the same order.
+//
+// Between steps each section's output moves on to the next section's input. The lanes are
+// ordered so that this move is a whole number of 4-float vectors: moving by a part of a vector
+// would make the next step's loads straddle the moves' stores, which processors cannot forward
+// and wait for instead. The bands are split into H runs that share each vector (band j + J·h at
+// row j), and padded with sections that pass the signal through exactly (b0 = 1, the rest 0)
+// when 10 does not split evenly.
 template <std::size_t N>
 struct Lanes {
-    // Lane b × N + c is band b of channel c.
-    static constexpr std::size_t kCount = kBands * N;
-    float b0[kCount], b1[kCount], b2[kCount], a1[kCount], a2[kCount];
-    float x1[kCount], x2[kCount], y1[kCount], y2[kCount];
-    float x[kCount], y[kCount];
+    static constexpr std::size_t kRuns = 4 / std::gcd(N, std::size_t{4});  // H
+    static constexpr std::size_t kRows = (kBands + kRuns - 1) / kRuns;     // J
+    static constexpr std::size_t kSections = kRows * kRuns;
+    static constexpr std::size_t kCount = kSections * N;
+    // How far a section's lanes are from the next section's, except from the last row.
+    static constexpr std::size_t kStride = kRuns * N;
+
+    static constexpr std::size_t lane(std::size_t section, std::size_t channel) {
+        return ((section % kRows) * kRuns + section / kRows) * N + channel;
+    }
+
+    alignas(16) float b0[kCount], b1[kCount], b2[kCount], a1[kCount], a2[kCount];
+    alignas(16) float x1[kCount], x2[kCount], y1[kCount], y2[kCount];
+    alignas(16) float x[kCount], y[kCount];
 };
 
 template <std::size_t N>
-inline void step(Lanes<N>& s, std::size_t first, std::size_t end) {
-    for (std::size_t l = first; l < end; ++l) {
-        const float y = s.b0[l] * s.x[l] + s.b1[l] * s.x1[l] + s.b2[l] * s.x2[l] -
-                        s.a1[l] * s.y1[l] - s.a2[l] * s.y2[l];
-        s.x2[l] = s.x1[l];
-        s.x1[l] = s.x[l];
-        s.y2[l] = s.y1[l];
-        s.y1[l] = y;
-        s.y[l] = y;
-    }
+inline void compute(Lanes<N>& s, std::size_t l) {
+    const float y = s.b0[l] * s.x[l] + s.b1[l] * s.x1[l] + s.b2[l] * s.x2[l] - s.a1[l] * s.y1[l] -
+                    s.a2[l] * s.y2[l];
+    s.x2[l] = s.x1[l];
+    s.x1[l] = s.x[l];
+    s.y2[l] = s.y1[l];
+    s.y1[l] = y;
+    s.y[l] = y;
 }
 
 // After a step: each section's output becomes the next section's input, the next frame enters
 // the first section, and the last section's output is final.
 template <std::size_t N>
 inline void advance(Lanes<N>& s, float* out, std::size_t t, std::size_t frames) {
-    constexpr std::size_t kLast = (kBands - 1) * N;
-    if (t >= kBands - 1) {
-        float* finished = out + (t - (kBands - 1)) * N;
+    using L = Lanes<N>;
+    constexpr std::size_t kLastRow = L::kCount - L::kStride;
+    if (t + 1 >= L::kSections) {
+        float* finished = out + (t + 1 - L::kSections) * N;
         for (std::size_t c = 0; c < N; ++c) {
-            finished[c] = s.y[kLast + c];
+            finished[c] = s.y[L::kCount - N + c];
         }
     }
-    for (std::size_t l = 0; l < kLast; ++l) {
-        s.x[N + l] = s.y[l];
+    for (std::size_t l = 0; l < kLastRow; ++l) {
+        s.x[L::kStride + l] = s.y[l];
     }
+    // The first vector: the next frame, then each run continuing from the last row into the
+    // top of the next run. It is put together from parts, so each step computes it last, long
+    // after these stores.
     if (t + 1 < frames) {
         const float* next = out + (t + 1) * N;
         for (std::size_t c = 0; c < N; ++c) {
             s.x[c] = next[c];
         }
     }
+    for (std::size_t l = 0; l + N < L::kStride; ++l) {
+        s.x[N + l] = s.y[kLastRow + l];
+    }
 }
 
 template <std::size_t N>
 void equalizeLanes(float* out, std::size_t frames, std::size_t base, const CoefficientSet& set,
                    EqualizerState& state) {
-    Lanes<N> s;
-    for (std::size_t b = 0; b < kBands; ++b) {
-        const float* k = &set[1 + 5 * b];
+    using L = Lanes<N>;
+    L s;
+    for (std::size_t b = 0; b < L::kSections; ++b) {
+        static constexpr float kPassThrough[5] = {1.0f, 0.0f, 0.0f, 0.0f, 0.0f};
+        const float* k = b < kBands ? &set[1 + 5 * b] : kPassThrough;
         for (std::size_t c = 0; c < N; ++c) {
-            const std::size_t l = b * N + c;
-            const EqualizerState::Section& m = state.memory[base + c][b];
+            const std::size_t l = L::lane(b, c);
+            const EqualizerState::Section m =
+                b < kBands ? state.memory[base + c][b] : EqualizerState::Section{};
             s.b0[l] = k[0];
             s.b1[l] = k[1];
             s.b2[l] = k[2];
@@ -185,25 +247,34 @@ void equalizeLanes(float* out, std::size_t frames, std::size_t base, const Coeff
     for (std::size_t c = 0; c < N; ++c) {
         s.x[c] = out[c];
     }
-    // Step t runs the sections that have a frame: band b on frame t − b.
-    const std::size_t steps = frames + kBands - 1;
+    // Step t runs the sections that have a frame: section b on frame t − b.
+    const std::size_t steps = frames + L::kSections - 1;
     for (std::size_t t = 0; t < steps;) {
-        if (t >= kBands - 1 && t < frames) {
+        if (t + 1 >= L::kSections && t < frames) {
             for (; t < frames; ++t) {
-                step(s, 0, Lanes<N>::kCount);
+                for (std::size_t l = L::kStride; l < L::kCount; ++l) {
+                    compute(s, l);
+                }
+                for (std::size_t l = 0; l < L::kStride; ++l) {
+                    compute(s, l);
+                }
                 advance(s, out, t, frames);
             }
             continue;
         }
-        const std::size_t firstBand = t >= frames ? t - frames + 1 : 0;
-        const std::size_t lastBand = std::min(t, kBands - 1);
-        step(s, firstBand * N, (lastBand + 1) * N);
+        const std::size_t first = t >= frames ? t - frames + 1 : 0;
+        const std::size_t last = std::min(t, L::kSections - 1);
+        for (std::size_t b = first; b <= last; ++b) {
+            for (std::size_t c = 0; c < N; ++c) {
+                compute(s, L::lane(b, c));
+            }
+        }
         advance(s, out, t, frames);
         ++t;
     }
     for (std::size_t b = 0; b < kBands; ++b) {
         for (std::size_t c = 0; c < N; ++c) {
-            const std::size_t l = b * N + c;
+            const std::size_t l = L::lane(b, c);
             state.memory[base + c][b] = {s.x1[l], s.x2[l], s.y1[l], s.y2[l]};
         }
     }
@@ -236,21 +307,48 @@ void equalize(float* out, std::size_t frames, std::size_t channels, std::size_t 
     }
 }
 
-// Returns the envelope after the last frame.
-float limit(float* out, std::size_t frames, std::size_t channels, float envelope) {
-    for (std::size_t f = 0; f < frames; ++f) {
-        float* frame = out + f * channels;
-        float peak = 0.0f;
-        for (std::size_t c = 0; c < channels; ++c) {
-            peak = std::max(peak, std::abs(frame[c]));
+// Peaks, envelope, then the samples, a block of frames at a time: only the envelope is a chain
+// from frame to frame, so the other two steps run at full speed. Returns the envelope after the
+// last frame.
+template <std::size_t N>
+float limit(float* out, std::size_t frames, std::size_t runtimeChannels, float envelope) {
+    const std::size_t channels = N > 0 ? N : runtimeChannels;
+    constexpr std::size_t kBlock = 64;
+    float factors[kBlock];
+    for (std::size_t first = 0; first < frames; first += kBlock) {
+        const std::size_t count = std::min(kBlock, frames - first);
+        float* block = out + first * channels;
+        for (std::size_t f = 0; f < count; ++f) {
+            float peak = 0.0f;
+            for (std::size_t c = 0; c < channels; ++c) {
+                peak = std::max(peak, std::abs(block[f * channels + c]));
+            }
+            factors[f] = peak;
         }
-        envelope = peak > envelope ? peak : kRelease * envelope + kReleaseComplement * peak;
-        const float factor = envelope > kCeiling ? kCeiling / envelope : 1.0f;
-        for (std::size_t c = 0; c < channels; ++c) {
-            frame[c] = std::clamp(frame[c] * factor, -1.0f, 1.0f);
+        for (std::size_t f = 0; f < count; ++f) {
+            const float peak = factors[f];
+            envelope = peak > envelope ? peak : kRelease * envelope + kReleaseComplement * peak;
+            factors[f] = envelope > kCeiling ? kCeiling / envelope : 1.0f;
+        }
+        for (std::size_t f = 0; f < count; ++f) {
+            for (std::size_t c = 0; c < channels; ++c) {
+                float& sample = block[f * channels + c];
+                sample = std::clamp(sample * factors[f], -1.0f, 1.0f);
+            }
         }
     }
     return envelope;
+}
+
+float limit(float* out, std::size_t frames, std::size_t channels, float envelope) {
+    switch (channels) {
+        case 1:
+            return limit<1>(out, frames, 1, envelope);
+        case 2:
+            return limit<2>(out, frames, 2, envelope);
+        default:
+            return limit<0>(out, frames, channels, envelope);
+    }
 }
 
 }  // namespace

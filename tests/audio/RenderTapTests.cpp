@@ -61,7 +61,7 @@ TEST(RenderTap, AnOutputBufferTooSmallForAFrameIsLeftAloneButAdvancesTheChannelB
     (void)interleaved;
     AudioBuffers output;
     output.add(2, 1, 7.0f).dataByteSize = 4;  // room for half a frame
-    output.add(0, 0);                          // no channels: skipped, adds nothing
+    output.add(0, 0);                         // no channels: skipped, adds nothing
     output.add(1, 8);
     tap.render(input, output);
 
@@ -81,7 +81,7 @@ TEST(RenderTap, MissingInputIsSilence) {
     output.add(4, 5, 1.0f);
     interleaved.render(input, output);
     EXPECT_EQ(output[0], (std::vector<float>{0.25f, 0.25f, 0, 0, 0.25f, 0.25f, 0, 0, 0.25f, 0.25f,
-                                             0, 0, 0, 0, 0, 0, 0, 0, 0, 0}));
+                                             0,     0,     0, 0, 0,     0,     0, 0, 0,     0}));
 
     // One buffer per channel: the second channel's buffer has no data, the third has none at all.
     Tap split(1.0f, 2);
@@ -107,7 +107,8 @@ TEST(RenderTap, ALoudPeakIsLimitedAtOnceAndReleasedSlowly) {
     const auto fill = [&](double amplitude, std::size_t cycle) {
         for (std::size_t f = 0; f < 512; ++f) {
             const double t = static_cast<double>(cycle * 512 + f) / 48000.0;
-            const auto s = static_cast<float>(amplitude * std::sin(2 * std::numbers::pi * 1000 * t));
+            const auto s =
+                static_cast<float>(amplitude * std::sin(2 * std::numbers::pi * 1000 * t));
             input[0][2 * f] = s;
             input[0][2 * f + 1] = -s;
         }
@@ -176,7 +177,8 @@ TEST(RenderTap, EqualizedOutputAgreesWithTheFrameByFrameFormulas) {
         std::uint32_t tapBuffers;
     };
     const std::vector<Layout> layouts = {
-        {{2}, 512, 1}, {{2}, 5, 1}, {{1, 1}, 64, 2}, {{8}, 33, 1}, {{3, 7}, 40, 1}, {{10}, 20, 1}};
+        {{2}, 512, 1},   {{2}, 5, 1},     {{1, 1}, 64, 2}, {{8}, 33, 1},    {{3, 5}, 40, 1},
+        {{1, 6}, 17, 1}, {{4, 4}, 12, 1}, {{7}, 30, 1},    {{3, 7}, 40, 1}, {{10}, 20, 1}};
     const auto& loudness = *EqualizerPreset::named("Loudness");
     for (const Layout& layout : layouts) {
         Tap fast(0.8f, layout.tapBuffers);
