@@ -1,8 +1,5 @@
 #include "audio/CoreAudio+Helpers.hpp"
 
-#include <algorithm>
-#include <iterator>
-
 #include "audio/AudioCodes.hpp"
 
 namespace quorvane {
@@ -27,13 +24,14 @@ AudioDevice describeDevice(AudioHardware& hardware, AudioObjectID id, std::strin
 
 std::vector<AudioDevice> devicesWithStreams(AudioHardware& hardware, std::uint32_t scope) {
     std::vector<AudioDevice> result;
-    std::ranges::copy_if(
-        allDevices(hardware), std::back_inserter(result), [&](const AudioDevice& device) {
-            std::uint32_t size = 0;
-            return hardware.getPropertyDataSize(
-                       device.id, {hal::kStreams, scope, hal::kElementMain}, size) == 0 &&
-                   size > 0;
-        });
+    for (AudioDevice& device : allDevices(hardware)) {
+        std::uint32_t size = 0;
+        if (hardware.getPropertyDataSize(device.id, {hal::kStreams, scope, hal::kElementMain},
+                                         size) == 0 &&
+            size > 0) {
+            result.push_back(std::move(device));
+        }
+    }
     return result;
 }
 
