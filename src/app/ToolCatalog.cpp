@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "platform/Platform.hpp"
+#include "tools/EqualizerTool.hpp"
 #include "tools/PlannedTool.hpp"
 
 namespace quorvane {
@@ -18,7 +19,12 @@ using Factory = std::unique_ptr<Tool> (*)(const ToolDescriptor&, const Platform&
 //        return std::make_unique<WindowSnapTool>(d, p); }},
 // Everything not listed stays a PlannedTool, so the catalog is always complete.
 const std::map<std::string_view, Factory>& builtTools() {
-    static const std::map<std::string_view, Factory> factories = {};
+    static const std::map<std::string_view, Factory> factories = {
+        {"equalizer",
+         [](const ToolDescriptor& d, const Platform& p) -> std::unique_ptr<Tool> {
+             return std::make_unique<EqualizerTool>(d, p);
+         }},
+    };
     return factories;
 }
 

@@ -10,6 +10,7 @@
 #include "base/Json.hpp"
 #include "cli/CommandHost.hpp"
 #include "cli/DormantTool.hpp"
+#include "cli/EqCommand.hpp"
 #include "cli/SettingsTextRenderer.hpp"
 #include "input/InputServices.hpp"
 #include "platform/Platform.hpp"
@@ -17,11 +18,13 @@
 #include "portable/FilePreferences.hpp"
 #include "portable/InProcessNotificationBus.hpp"
 #include "portable/PortableAccessibility.hpp"
+#include "portable/PortableAudioHardware.hpp"
 #include "portable/PortableEventMonitors.hpp"
 #include "portable/PortableEventSystem.hpp"
 #include "portable/PortableHotKeySystem.hpp"
 #include "portable/PortableMenuBar.hpp"
 #include "portable/PortablePermissionProbe.hpp"
+#include "portable/PortableProcessFacts.hpp"
 #include "portable/PortableScreens.hpp"
 #include "portable/PortableWorkspace.hpp"
 #include "portable/SteadyScheduler.hpp"
@@ -67,8 +70,10 @@ struct Session {
     PortableAccessibility accessibility;
     PortableEventMonitors eventMonitors;
     PortableScreens screens;
-    InputServices input{hotKeys, screens, scheduler};
     PortableMenuBar menuBar;
+    PortableAudioHardware audioHardware;
+    PortableProcessFacts processFacts;
+    InputServices input{hotKeys, screens, scheduler};
     std::unique_ptr<PermissionCenter> permissions;
     std::unique_ptr<ToolRegistry> registry;
 };
@@ -115,6 +120,13 @@ public:
         }
         const std::string command = rest.front();
         const std::vector<std::string> operands(rest.begin() + 1, rest.end());
+        if (command == "eq") {
+            std::string error;
+            if (!EqCommand::run(operands, out_, error)) {
+                throw CommandError(error);
+            }
+            return 0;
+        }
         checkShape(command, operands);
         openSession(usePrefsFile, prefsPath);
 
@@ -169,7 +181,8 @@ private:
         Platform platform{*session_.preferences, session_.scheduler,     session_.probe,
                           session_.workspace,    session_.notifications, session_.events,
                           session_.hotKeys,      session_.accessibility, session_.eventMonitors,
-                          session_.screens,      session_.menuBar,       session_.input};
+                          session_.screens,      session_.menuBar,       session_.audioHardware,
+                          session_.processFacts, session_.input};
         session_.permissions = std::make_unique<PermissionCenter>(
             session_.probe, session_.scheduler, session_.workspace);
         std::vector<std::unique_ptr<Tool>> tools;
@@ -332,7 +345,8 @@ std::string CommandLine::usage() {
            "  controls                   the tools with a tile in the menu, in order\n"
            "  controls add ID            add a tool's tile at the end of the menu's grid\n"
            "  controls remove ID         remove a tool's tile\n"
-           "  settings ID                a tool's settings page, as text\n"
+           "  settings ID                a tool's settings page, as text\n" +
+           EqCommand::usage() +
            "\n"
            "Options:\n"
            "  --prefs FILE               use this preferences file instead of Quorvane's own\n"

@@ -10,12 +10,14 @@
 #include "app/ToolCatalog.hpp"
 #include "mac/MacAppInstance.hpp"
 #include "mac/MacAppWindows.hpp"
+#include "mac/MacAudioHardware.hpp"
 #include "mac/MacFrameworks.h"
 #include "mac/MacLoginItem.hpp"
 #include "mac/MacMenuBar.hpp"
 #include "mac/MacNotificationBus.hpp"
 #include "mac/MacPermissionProbe.hpp"
 #include "mac/MacPreferences.hpp"
+#include "mac/MacProcessFacts.hpp"
 #include "mac/MacScheduler.hpp"
 #include "mac/MacWorkspace.hpp"
 #include "platform/Platform.hpp"
@@ -43,9 +45,12 @@ struct AppState {
     MacEventMonitors eventMonitors;
     MacScreens screens;
     MacMenuBar menuBar;
+    MacAudioHardware audioHardware;
+    MacProcessFacts processFacts;
     InputServices input{hotKeys, screens, scheduler};
-    Platform platform{preferences, scheduler,     permissionProbe, workspace, notifications, events,
-                      hotKeys,     accessibility, eventMonitors,   screens,   menuBar,       input};
+    Platform platform{preferences, scheduler,     permissionProbe, workspace,     notifications,
+                      events,      hotKeys,       accessibility,   eventMonitors, screens,
+                      menuBar,     audioHardware, processFacts,    input};
     MacAppWindows windows;
     MacAppInstance instance;
     MacLoginItem loginItem;

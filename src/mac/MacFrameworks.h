@@ -9,7 +9,12 @@
 #import <AppKit/AppKit.h>
 #include <ApplicationServices/ApplicationServices.h>
 #include <Carbon/Carbon.h>
+#include <CoreAudio/CoreAudio.h>
 #include <CoreFoundation/CoreFoundation.h>
 #include <CoreGraphics/CoreGraphics.h>
+// The umbrella leaves out the process-tap headers, which are Objective-C only.
+#import <CoreAudio/AudioHardwareTapping.h>
+#import <CoreAudio/CATapDescription.h>
 // unconfirmed: check on a Mac first (the umbrella name; only SMAppService.h itself was read).
 #import <ServiceManagement/ServiceManagement.h>
+#include <libproc.h>

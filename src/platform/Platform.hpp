@@ -3,9 +3,11 @@
 namespace quorvane {
 
 class MenuBar;
+class AudioHardware;
 class NotificationBus;
 class PermissionProbe;
 class Preferences;
+class ProcessFacts;
 class Scheduler;
 class Workspace;
 class EventSystem;
@@ -29,6 +31,8 @@ struct Platform {
     EventMonitors& eventMonitors;
     Screens& screens;
     MenuBar& menuBar;
+    AudioHardware& audioHardware;
+    ProcessFacts& processFacts;
     // Not a port: the process-wide input infrastructure built on the ports above (the hot-key
     // centre, the HUD), handed around with them so every tool reaches the one instance.
     InputServices& input;

@@ -103,7 +103,7 @@ TEST_F(CommandLineTest, RefusalsAreOneLineWithStatusTwoAndWriteNothing) {
     const std::vector<std::vector<std::string>> refused = {
         {"enable", "no-such-tool"},
         {"enable", "window-snap"},
-        {"settings", "equalizer"},
+        {"settings", "headphone-mic"},
         {"controls", "add", "pointer"},
         {"frobnicate"},
         {},

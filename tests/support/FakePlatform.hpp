@@ -5,11 +5,13 @@
 #include "portable/InProcessNotificationBus.hpp"
 #include "portable/MemoryPreferences.hpp"
 #include "support/FakeAccessibility.hpp"
+#include "support/FakeAudioHardware.hpp"
 #include "support/FakeEventMonitors.hpp"
 #include "support/FakeEventSystem.hpp"
 #include "support/FakeHotKeySystem.hpp"
 #include "support/FakeMenuBar.hpp"
 #include "support/FakePermissionProbe.hpp"
+#include "support/FakeProcessFacts.hpp"
 #include "support/FakeScreens.hpp"
 #include "support/FakeWorkspace.hpp"
 #include "support/ManualScheduler.hpp"
@@ -31,11 +33,14 @@ struct FakePlatform {
     // What the fakes below were asked to do, in order.
     std::vector<std::string> calls;
     FakeMenuBar menuBar{calls};
+    FakeAudioHardware audioHardware;
+    FakeProcessFacts processFacts;
     InputServices input{hotKeys, screens, scheduler};
 
     Platform platform() {
-        return {preferences, scheduler,     permissionProbe, workspace, notifications, events,
-                hotKeys,     accessibility, eventMonitors,   screens,   menuBar,       input};
+        return {preferences, scheduler,     permissionProbe, workspace,     notifications,
+                events,      hotKeys,       accessibility,   eventMonitors, screens,
+                menuBar,     audioHardware, processFacts,    input};
     }
 };
 

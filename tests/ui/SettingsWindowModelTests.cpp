@@ -46,7 +46,7 @@ TEST(SettingsWindowModel, TheSidebarGroupsEveryToolUnderItsCategoryInOrder) {
         } else if (row.kind == Kind::tool) {
             ++tools;
             EXPECT_EQ(launched.tool(row.toolID).category(), current) << row.toolID;
-            EXPECT_FALSE(row.isAvailable) << "this build has no tool behaviour yet";
+            EXPECT_EQ(row.isAvailable, launched.tool(row.toolID).isAvailable()) << row.toolID;
         }
     }
     EXPECT_EQ(headings, (std::vector<std::string>{"Windows", "Keyboard", "Mouse & Trackpad",
