@@ -38,36 +38,23 @@ struct LoudnessTap {
     AudioBuffers output;
 };
 
-void reportFrames(benchmark::State& state) {
+template <auto kRender>
+void renderLoudness(benchmark::State& state) {
+    LoudnessTap tap;
+    for (auto _ : state) {
+        kRender(tap.context, tap.input.span(), tap.output.span());
+        benchmark::DoNotOptimize(tap.output[0].data());
+        benchmark::ClobberMemory();
+    }
     const double frames = static_cast<double>(state.iterations()) * kFrames;
     state.counters["ns_per_frame"] = benchmark::Counter(
         frames * 1e-9, benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
     state.counters["realtime_x"] =
         benchmark::Counter(frames / kSampleRate, benchmark::Counter::kIsRate);
 }
-
-void BM_RenderLoudnessStereo48k(benchmark::State& state) {
-    LoudnessTap tap;
-    for (auto _ : state) {
-        renderTap(tap.context, tap.input.span(), tap.output.span());
-        benchmark::DoNotOptimize(tap.output[0].data());
-        benchmark::ClobberMemory();
-    }
-    reportFrames(state);
-}
-BENCHMARK(BM_RenderLoudnessStereo48k);
-
+BENCHMARK(renderLoudness<&renderTap>)->Name("BM_RenderLoudnessStereo48k");
 // The same cycle as a plain loop in the order the formulas are written: the baseline.
-void BM_PlainLoopLoudnessStereo48k(benchmark::State& state) {
-    LoudnessTap tap;
-    for (auto _ : state) {
-        referenceRender(tap.context, tap.input.span(), tap.output.span());
-        benchmark::DoNotOptimize(tap.output[0].data());
-        benchmark::ClobberMemory();
-    }
-    reportFrames(state);
-}
-BENCHMARK(BM_PlainLoopLoudnessStereo48k);
+BENCHMARK(renderLoudness<&referenceRender>)->Name("BM_PlainLoopLoudnessStereo48k");
 
 // What every slider movement costs on the main thread.
 void BM_EqualizerUpdate(benchmark::State& state) {

@@ -287,24 +287,12 @@ void equalize(float* out, std::size_t frames, std::size_t channels, std::size_t 
         equalizeFrames(out, frames, channels, base, set, state);
         return;
     }
-    switch (channels) {
-        case 1:
-            return equalizeLanes<1>(out, frames, base, set, state);
-        case 2:
-            return equalizeLanes<2>(out, frames, base, set, state);
-        case 3:
-            return equalizeLanes<3>(out, frames, base, set, state);
-        case 4:
-            return equalizeLanes<4>(out, frames, base, set, state);
-        case 5:
-            return equalizeLanes<5>(out, frames, base, set, state);
-        case 6:
-            return equalizeLanes<6>(out, frames, base, set, state);
-        case 7:
-            return equalizeLanes<7>(out, frames, base, set, state);
-        default:
-            return equalizeLanes<8>(out, frames, base, set, state);
-    }
+    using Kernel =
+        void (*)(float*, std::size_t, std::size_t, const CoefficientSet&, EqualizerState&);
+    static constexpr Kernel kKernels[] = {&equalizeLanes<1>, &equalizeLanes<2>, &equalizeLanes<3>,
+                                          &equalizeLanes<4>, &equalizeLanes<5>, &equalizeLanes<6>,
+                                          &equalizeLanes<7>, &equalizeLanes<8>};
+    kKernels[channels - 1](out, frames, base, set, state);
 }
 
 // Peaks, envelope, then the samples, a block of frames at a time: only the envelope is a chain

@@ -27,7 +27,12 @@ WavWriter::WavWriter(const std::filesystem::path& path, std::uint16_t channels,
         throw WavError("the output would be too long for a WAV file (4 GB)");
     }
     std::vector<std::uint8_t> header;
-    const auto tag = [&](const char* id) { header.insert(header.end(), id, id + 4); };
+    header.reserve(kHeaderBytes + 8);
+    const auto tag = [&](const char* id) {
+        for (int i = 0; i < 4; ++i) {
+            header.push_back(static_cast<std::uint8_t>(id[i]));
+        }
+    };
     tag("RIFF");
     wav::put32(header, static_cast<std::uint32_t>(kHeaderBytes + dataBytes));
     tag("WAVE");

@@ -65,7 +65,10 @@ void listPresets(std::ostream& out) {
     for (const EqualizerPreset& preset : EqualizerPreset::all()) {
         std::string gains;
         for (const double gain : preset.gains) {
-            gains += (gains.empty() ? "" : ",") + number(gain);
+            if (!gains.empty()) {
+                gains += ',';
+            }
+            gains += number(gain);
         }
         out << preset.name << std::string(17 - preset.name.size(), ' ') << gains << "\n";
     }

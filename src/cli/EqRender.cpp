@@ -41,9 +41,12 @@ void renderFile(const EqRender& settings, WavReader& reader, const std::filesyst
 void EqRender::run(const std::filesystem::path& input, const std::filesystem::path& output) const {
     WavReader reader(input);
     // Hidden, and unique, so two renders to one destination never share a temporary file.
-    const std::filesystem::path temporary =
-        output.parent_path() /
-        ("." + output.filename().string() + "." + Uuid::random().text() + ".partial");
+    std::string name = output.filename().string();
+    name.insert(0, 1, '.');
+    name += '.';
+    name += Uuid::random().text();
+    name += ".partial";
+    const std::filesystem::path temporary = output.parent_path() / name;
     try {
         renderFile(*this, reader, temporary);
         std::error_code error;

@@ -66,7 +66,7 @@ TEST(EqRender, TheRenderOfAGeneratedSignalMatchesItsGoldenFile) {
     EqRender render{EqualizerPreset::named("Loudness")->gains, -6, 1.5};
     render.run(dir / "in.wav", dir / "out.wav");
     const std::filesystem::path golden = QUORVANE_GOLDEN_DIR "/loudness-stereo-48k.wav";
-    if (std::getenv("QUORVANE_REGENERATE_GOLDEN")) {
+    if (std::getenv("QUORVANE_UPDATE_GOLDEN")) {
         std::filesystem::copy_file(dir / "out.wav", golden,
                                    std::filesystem::copy_options::overwrite_existing);
         GTEST_SKIP() << "regenerated " << golden;

@@ -5,4 +5,4 @@ set -euo pipefail
 cd "$(dirname "$0")/../../.."
 cmake --preset default >/dev/null
 cmake --build --preset default --target quorvane_tests
-QUORVANE_REGENERATE_GOLDEN=1 build/default/tests/quorvane_tests --gtest_filter='EqRender.*Golden*'
+QUORVANE_UPDATE_GOLDEN=1 build/default/tests/quorvane_tests --gtest_filter='EqRender.*Golden*'
