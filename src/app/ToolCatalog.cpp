@@ -5,6 +5,7 @@
 
 #include "platform/Platform.hpp"
 #include "tools/PlannedTool.hpp"
+#include "tools/WindowDragTool.hpp"
 
 namespace quorvane {
 
@@ -18,7 +19,12 @@ using Factory = std::unique_ptr<Tool> (*)(const ToolDescriptor&, const Platform&
 //        return std::make_unique<WindowSnapTool>(d, p); }},
 // Everything not listed stays a PlannedTool, so the catalog is always complete.
 const std::map<std::string_view, Factory>& builtTools() {
-    static const std::map<std::string_view, Factory> factories = {};
+    static const std::map<std::string_view, Factory> factories = {
+        {"window-drag",
+         [](const ToolDescriptor& d, const Platform& p) -> std::unique_ptr<Tool> {
+             return std::make_unique<WindowDragTool>(d, p);
+         }},
+    };
     return factories;
 }
 

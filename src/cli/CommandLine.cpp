@@ -20,8 +20,10 @@
 #include "portable/PortableEventMonitors.hpp"
 #include "portable/PortableEventSystem.hpp"
 #include "portable/PortableHotKeySystem.hpp"
+#include "portable/PortableKeyboardLayout.hpp"
 #include "portable/PortablePermissionProbe.hpp"
 #include "portable/PortableScreens.hpp"
+#include "portable/PortableWindowList.hpp"
 #include "portable/PortableWorkspace.hpp"
 #include "portable/SteadyScheduler.hpp"
 
@@ -67,6 +69,8 @@ struct Session {
     PortableEventMonitors eventMonitors;
     PortableScreens screens;
     InputServices input{hotKeys, screens, scheduler};
+    PortableKeyboardLayout keyboardLayout;
+    PortableWindowList windowList;
     std::unique_ptr<PermissionCenter> permissions;
     std::unique_ptr<ToolRegistry> registry;
 };
@@ -167,7 +171,8 @@ private:
         Platform platform{*session_.preferences, session_.scheduler,     session_.probe,
                           session_.workspace,    session_.notifications, session_.events,
                           session_.hotKeys,      session_.accessibility, session_.eventMonitors,
-                          session_.screens,      session_.input};
+                          session_.screens,      session_.input,         session_.keyboardLayout,
+                          session_.windowList};
         session_.permissions = std::make_unique<PermissionCenter>(
             session_.probe, session_.scheduler, session_.workspace);
         std::vector<std::unique_ptr<Tool>> tools;

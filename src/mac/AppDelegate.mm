@@ -23,7 +23,9 @@
 #include "mac/MacEventMonitors.hpp"
 #include "mac/MacEventSystem.hpp"
 #include "mac/MacHotKeySystem.hpp"
+#include "mac/MacKeyboardLayout.hpp"
 #include "mac/MacScreens.hpp"
+#include "mac/MacWindowList.hpp"
 
 namespace quorvane {
 
@@ -43,8 +45,11 @@ struct AppState {
     MacEventMonitors eventMonitors;
     MacScreens screens;
     InputServices input{hotKeys, screens, scheduler};
-    Platform platform{preferences, scheduler,     permissionProbe, workspace, notifications, events,
-                      hotKeys,     accessibility, eventMonitors,   screens,   input};
+    MacKeyboardLayout keyboardLayout;
+    MacWindowList windowList;
+    Platform platform{preferences, scheduler,      permissionProbe, workspace,     notifications,
+                      events,      hotKeys,        accessibility,   eventMonitors, screens,
+                      input,       keyboardLayout, windowList};
     PermissionCenter permissionCenter{permissionProbe, scheduler, workspace};
     ToolRegistry registry{ToolCatalog::makeTools(platform), permissionCenter, preferences,
                           notifications};

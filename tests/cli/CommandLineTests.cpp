@@ -102,7 +102,7 @@ TEST_F(CommandLineTest, EnableAndDisablePersistThroughTheRegistryAndTellTheApp) 
 TEST_F(CommandLineTest, RefusalsAreOneLineWithStatusTwoAndWriteNothing) {
     const std::vector<std::vector<std::string>> refused = {
         {"enable", "no-such-tool"},
-        {"enable", "window-snap"},
+        {"enable", "pin-window"},
         {"settings", "equalizer"},
         {"controls", "add", "pointer"},
         {"frobnicate"},
@@ -118,7 +118,7 @@ TEST_F(CommandLineTest, RefusalsAreOneLineWithStatusTwoAndWriteNothing) {
         EXPECT_EQ(result.out, "");
     }
     EXPECT_FALSE(std::filesystem::exists(host.file));
-    EXPECT_NE(run({"enable", "window-snap"}).err.find("not available"), std::string::npos);
+    EXPECT_NE(run({"enable", "pin-window"}).err.find("not available"), std::string::npos);
 
     TemporaryDirectory::write(host.file, "{\"tool.clock.enabled\": tru");
     const auto corrupt = run({"enable", "clock"});

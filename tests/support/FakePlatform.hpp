@@ -8,8 +8,10 @@
 #include "support/FakeEventMonitors.hpp"
 #include "support/FakeEventSystem.hpp"
 #include "support/FakeHotKeySystem.hpp"
+#include "support/FakeKeyboardLayout.hpp"
 #include "support/FakePermissionProbe.hpp"
 #include "support/FakeScreens.hpp"
+#include "support/FakeWindowList.hpp"
 #include "support/FakeWorkspace.hpp"
 #include "support/ManualScheduler.hpp"
 
@@ -28,10 +30,13 @@ struct FakePlatform {
     FakeEventMonitors eventMonitors;
     FakeScreens screens;
     InputServices input{hotKeys, screens, scheduler};
+    FakeKeyboardLayout keyboardLayout;
+    FakeWindowList windowList;
 
     Platform platform() {
-        return {preferences, scheduler,     permissionProbe, workspace, notifications, events,
-                hotKeys,     accessibility, eventMonitors,   screens,   input};
+        return {preferences, scheduler,      permissionProbe, workspace,     notifications,
+                events,      hotKeys,        accessibility,   eventMonitors, screens,
+                input,       keyboardLayout, windowList};
     }
 };
 
