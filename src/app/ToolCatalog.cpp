@@ -6,6 +6,7 @@
 #include "platform/Platform.hpp"
 #include "tools/PlannedTool.hpp"
 #include "tools/WindowDragTool.hpp"
+#include "tools/WindowSnapTool.hpp"
 
 namespace quorvane {
 
