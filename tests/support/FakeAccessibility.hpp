@@ -78,8 +78,14 @@ struct FakeAccessibility : Accessibility {
     }
 
     Element systemWide() override { return systemWideElement; }
+    // One element per application, so attributes set on it in a test are found again.
+    std::map<int, Element> applicationElements;
     Element application(int pid) override {
-        return std::make_shared<FakeElement>(pid, "application");
+        Element& element = applicationElements[pid];
+        if (!element) {
+            element = std::make_shared<FakeElement>(pid, "application");
+        }
+        return element;
     }
     std::int32_t copyAttribute(const Element& element, std::string_view attribute,
                                AccessibilityValue& value) override {
