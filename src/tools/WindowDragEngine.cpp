@@ -2,14 +2,16 @@
 
 #include <algorithm>
 
+#include "platform/EventField.hpp"
+
 namespace quorvane {
 
 namespace {
 
-constexpr std::uint64_t kShift = 0x20000;
-constexpr std::uint64_t kControl = 0x40000;
-constexpr std::uint64_t kOption = 0x80000;
-constexpr std::uint64_t kCommand = 0x100000;
+constexpr std::uint64_t kShift = modifierFlag::shift;
+constexpr std::uint64_t kControl = modifierFlag::control;
+constexpr std::uint64_t kOption = modifierFlag::option;
+constexpr std::uint64_t kCommand = modifierFlag::command;
 
 std::uint64_t requiredFlags(WindowDragEngine::Keys keys) {
     switch (keys) {

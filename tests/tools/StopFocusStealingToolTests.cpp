@@ -2,19 +2,14 @@
 
 #include <gtest/gtest.h>
 
-#include "app/ToolCatalog.hpp"
+#include "support/CatalogDescriptor.hpp"
 #include "support/FakePlatform.hpp"
 
 namespace quorvane {
 namespace {
 
 const ToolDescriptor& descriptor() {
-    for (const auto& d : ToolCatalog::descriptors()) {
-        if (d.identity.id == "stop-focus-stealing") {
-            return d;
-        }
-    }
-    throw std::logic_error("stop-focus-stealing is not in the catalog");
+    return catalogDescriptor("stop-focus-stealing");
 }
 
 struct StopFocusStealingToolTest : ::testing::Test {

@@ -2,20 +2,15 @@
 
 #include <gtest/gtest.h>
 
-#include "app/ToolCatalog.hpp"
 #include "platform/EventField.hpp"
+#include "support/CatalogDescriptor.hpp"
 #include "support/FakePlatform.hpp"
 
 namespace quorvane {
 namespace {
 
 const ToolDescriptor& descriptor() {
-    for (const auto& d : ToolCatalog::descriptors()) {
-        if (d.identity.id == "window-drag") {
-            return d;
-        }
-    }
-    throw std::logic_error("window-drag is not in the catalog");
+    return catalogDescriptor("window-drag");
 }
 
 struct WindowDragToolTest : ::testing::Test {

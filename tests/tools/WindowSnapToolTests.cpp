@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "app/ToolCatalog.hpp"
+#include "support/CatalogDescriptor.hpp"
 #include "support/FakePlatform.hpp"
 
 namespace quorvane {
@@ -12,12 +12,7 @@ constexpr std::uint32_t kControlOption = 0x1800;  // Carbon ⌃⌥
 constexpr std::uint32_t kControlOptionCommand = 0x1900;
 
 const ToolDescriptor& descriptor() {
-    for (const auto& d : ToolCatalog::descriptors()) {
-        if (d.identity.id == "window-snap") {
-            return d;
-        }
-    }
-    throw std::logic_error("window-snap is not in the catalog");
+    return catalogDescriptor("window-snap");
 }
 
 struct WindowSnapToolTest : ::testing::Test {
