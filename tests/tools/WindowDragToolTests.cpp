@@ -96,9 +96,6 @@ TEST_F(WindowDragToolTest, RightDragResizesAndTheSettingsPersist) {
     fakes.scheduler.advance(Seconds(1));
     send(EventType::leftMouseDragged, {510, 400}, flags);
     EXPECT_EQ(tool->lastError(), "Couldn't move the window (AXError -25204)");
-
-    tool->setKeys(WindowDragEngine::Keys::controlOption);
-    EXPECT_EQ(fakes.preferences.string(WindowDragTool::kKeysKey), "controlOption");
     fakes.preferences.set(WindowDragTool::kKeysKey, "hyper");
     EXPECT_EQ(WindowDragTool(descriptor(), fakes.platform()).keys(),
               WindowDragEngine::Keys::controlCommand)
