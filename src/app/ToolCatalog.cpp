@@ -6,6 +6,9 @@
 #include "platform/Platform.hpp"
 #include "tools/EqualizerTool.hpp"
 #include "tools/PlannedTool.hpp"
+#include "tools/StopFocusStealingTool.hpp"
+#include "tools/WindowDragTool.hpp"
+#include "tools/WindowSnapTool.hpp"
 
 namespace quorvane {
 
@@ -18,12 +21,17 @@ using Factory = std::unique_ptr<Tool> (*)(const ToolDescriptor&, const Platform&
 //   {"window-snap", [](const ToolDescriptor& d, const Platform& p) -> std::unique_ptr<Tool> {
 //        return std::make_unique<WindowSnapTool>(d, p); }},
 // Everything not listed stays a PlannedTool, so the catalog is always complete.
+template <typename BuiltTool>
+std::unique_ptr<Tool> build(const ToolDescriptor& descriptor, const Platform& platform) {
+    return std::make_unique<BuiltTool>(descriptor, platform);
+}
+
 const std::map<std::string_view, Factory>& builtTools() {
     static const std::map<std::string_view, Factory> factories = {
-        {"equalizer",
-         [](const ToolDescriptor& d, const Platform& p) -> std::unique_ptr<Tool> {
-             return std::make_unique<EqualizerTool>(d, p);
-         }},
+        {"equalizer", &build<EqualizerTool>},
+        {"stop-focus-stealing", &build<StopFocusStealingTool>},
+        {"window-drag", &build<WindowDragTool>},
+        {"window-snap", &build<WindowSnapTool>},
     };
     return factories;
 }

@@ -22,10 +22,12 @@
 #include "portable/PortableEventMonitors.hpp"
 #include "portable/PortableEventSystem.hpp"
 #include "portable/PortableHotKeySystem.hpp"
+#include "portable/PortableKeyboardLayout.hpp"
 #include "portable/PortableMenuBar.hpp"
 #include "portable/PortablePermissionProbe.hpp"
 #include "portable/PortableProcessFacts.hpp"
 #include "portable/PortableScreens.hpp"
+#include "portable/PortableWindowList.hpp"
 #include "portable/PortableWorkspace.hpp"
 #include "portable/SteadyScheduler.hpp"
 
@@ -74,6 +76,8 @@ struct Session {
     PortableAudioHardware audioHardware;
     PortableProcessFacts processFacts;
     InputServices input{hotKeys, screens, scheduler};
+    PortableKeyboardLayout keyboardLayout;
+    PortableWindowList windowList;
     std::unique_ptr<PermissionCenter> permissions;
     std::unique_ptr<ToolRegistry> registry;
 };
@@ -182,7 +186,8 @@ private:
                           session_.workspace,    session_.notifications, session_.events,
                           session_.hotKeys,      session_.accessibility, session_.eventMonitors,
                           session_.screens,      session_.menuBar,       session_.audioHardware,
-                          session_.processFacts, session_.input};
+                          session_.processFacts, session_.input,         session_.keyboardLayout,
+                          session_.windowList};
         session_.permissions = std::make_unique<PermissionCenter>(
             session_.probe, session_.scheduler, session_.workspace);
         std::vector<std::unique_ptr<Tool>> tools;

@@ -26,7 +26,9 @@
 #include "mac/MacEventMonitors.hpp"
 #include "mac/MacEventSystem.hpp"
 #include "mac/MacHotKeySystem.hpp"
+#include "mac/MacKeyboardLayout.hpp"
 #include "mac/MacScreens.hpp"
+#include "mac/MacWindowList.hpp"
 
 namespace quorvane {
 
@@ -48,9 +50,12 @@ struct AppState {
     MacAudioHardware audioHardware;
     MacProcessFacts processFacts;
     InputServices input{hotKeys, screens, scheduler};
-    Platform platform{preferences, scheduler,     permissionProbe, workspace,     notifications,
-                      events,      hotKeys,       accessibility,   eventMonitors, screens,
-                      menuBar,     audioHardware, processFacts,    input};
+    MacKeyboardLayout keyboardLayout;
+    MacWindowList windowList;
+    Platform platform{preferences,   scheduler, permissionProbe, workspace,
+                      notifications, events,    hotKeys,         accessibility,
+                      eventMonitors, screens,   menuBar,         audioHardware,
+                      processFacts,  input,     keyboardLayout,  windowList};
     MacAppWindows windows;
     MacAppInstance instance;
     MacLoginItem loginItem;

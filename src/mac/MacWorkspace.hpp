@@ -14,6 +14,7 @@ public:
     std::optional<RunningApplication> runningApplication(int pid) override;
     std::optional<RunningApplication> frontmostApplication() override;
     int currentProcessID() override;
+    bool activate(int pid) override;
     [[nodiscard]] Subscription observe(WorkspaceNotification notification,
                                        Handler handler) override;
     [[nodiscard]] Subscription observeDistributed(const std::string& name,

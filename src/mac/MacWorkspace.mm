@@ -140,6 +140,17 @@ int MacWorkspace::currentProcessID() {
     return static_cast<int>([NSRunningApplication currentApplication].processIdentifier);
 }
 
+bool MacWorkspace::activate(int pid) {
+    @autoreleasepool {
+        NSRunningApplication* app =
+            [NSRunningApplication runningApplicationWithProcessIdentifier:static_cast<pid_t>(pid)];
+        // No options: ignoring other apps has no effect since macOS 14, and all windows would
+        // pull every window of the app forward, not just the one the user meant.
+        return app ? [app activateWithOptions:static_cast<NSApplicationActivationOptions>(0)]
+                   : false;
+    }
+}
+
 Subscription MacWorkspace::observe(WorkspaceNotification notification, Handler handler) {
     @autoreleasepool {
         auto observer = std::make_shared<CancellableHandler<Handler>>(std::move(handler));

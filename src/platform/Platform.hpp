@@ -15,6 +15,8 @@ class HotKeySystem;
 class Accessibility;
 class EventMonitors;
 class Screens;
+class KeyboardLayout;
+class WindowList;
 struct InputServices;
 
 // Every port, handed to the registry and the tools at construction. The app fills it with the
@@ -36,6 +38,8 @@ struct Platform {
     // Not a port: the process-wide input infrastructure built on the ports above (the hot-key
     // centre, the HUD), handed around with them so every tool reaches the one instance.
     InputServices& input;
+    KeyboardLayout& keyboardLayout;
+    WindowList& windowList;
 };
 
 }  // namespace quorvane

@@ -27,6 +27,9 @@ public:
     virtual std::optional<RunningApplication> frontmostApplication() = 0;
     // Quorvane's own process.
     virtual int currentProcessID() = 0;
+    // Brings an application to the front (activateWithOptions: with no options). False when it
+    // is gone or the system refused. Nothing to activate where there are no applications.
+    virtual bool activate(int /*pid*/) { return false; }
 
     // On the workspace's own notification centre, delivered on the main queue.
     [[nodiscard]] virtual Subscription observe(WorkspaceNotification notification,

@@ -69,6 +69,7 @@ struct SettingsRow {
         std::function<void()> stopRecording;
         std::function<void()> clear;
         std::function<void()> restoreDefault;
+        std::string symbol;  // an SF Symbols name shown before the label; empty for none
     };
     struct AppEntry {
         std::string bundleID;

@@ -80,7 +80,8 @@ TEST_F(CommandLineTest, ToolsListsEveryToolInRegistryOrderAsTextAndJson) {
     EXPECT_EQ(*tools[7].find("id")->string(), "window-snap");
     EXPECT_EQ(*tools[67].find("id")->string(), "hide-menu-icons");
     EXPECT_EQ(*tools[68].find("available")->boolean(), true);
-    EXPECT_EQ(*tools[0].find("available")->boolean(), false) << "nothing pretends to be built";
+    EXPECT_EQ(*tools[0].find("available")->boolean(), true);
+    EXPECT_EQ(*tools[1].find("available")->boolean(), false) << "nothing pretends to be built";
     EXPECT_EQ(*tools[69].find("permissions")->array(), Json::Array{Json("accessibility")});
     EXPECT_FALSE(std::filesystem::exists(host.file)) << "reading writes nothing";
 }
@@ -102,7 +103,7 @@ TEST_F(CommandLineTest, EnableAndDisablePersistThroughTheRegistryAndTellTheApp) 
 TEST_F(CommandLineTest, RefusalsAreOneLineWithStatusTwoAndWriteNothing) {
     const std::vector<std::vector<std::string>> refused = {
         {"enable", "no-such-tool"},
-        {"enable", "window-snap"},
+        {"enable", "pin-window"},
         {"settings", "headphone-mic"},
         {"controls", "add", "pointer"},
         {"frobnicate"},
@@ -118,7 +119,7 @@ TEST_F(CommandLineTest, RefusalsAreOneLineWithStatusTwoAndWriteNothing) {
         EXPECT_EQ(result.out, "");
     }
     EXPECT_FALSE(std::filesystem::exists(host.file));
-    EXPECT_NE(run({"enable", "window-snap"}).err.find("not available"), std::string::npos);
+    EXPECT_NE(run({"enable", "pin-window"}).err.find("not available"), std::string::npos);
 
     TemporaryDirectory::write(host.file, "{\"tool.clock.enabled\": tru");
     const auto corrupt = run({"enable", "clock"});
@@ -143,6 +144,22 @@ TEST_F(CommandLineTest, SearchControlsAndSettingsWorkOnAnotherStore) {
     EXPECT_NE(page.out.find("Look\n  Shows the time.\n"), std::string::npos) << page.out;
     EXPECT_EQ(run({"--version"}).status, 0);
     EXPECT_NE(run({"--help"}).out.find(host.file.string()), std::string::npos);
+}
+
+TEST_F(CommandLineTest, SettingsPrintTheWindowToolsPages) {
+    const auto snap = run({"settings", "window-snap"});
+    EXPECT_EQ(snap.status, 0) << snap.err;
+    EXPECT_NE(snap.out.find("Left half: ⌃⌥←\n"), std::string::npos) << snap.out;
+    EXPECT_NE(snap.out.find("Move to next display: ⌃⌥⌘→\n"), std::string::npos);
+    const auto drag = run({"settings", "window-drag"});
+    EXPECT_EQ(drag.status, 0) << drag.err;
+    EXPECT_NE(drag.out.find("Grabbing the middle resizes from the bottom-right corner."),
+              std::string::npos)
+        << drag.out;
+    const auto focus = run({"settings", "stop-focus-stealing"});
+    EXPECT_EQ(focus.status, 0) << focus.err;
+    EXPECT_NE(focus.out.find("Nothing stopped yet."), std::string::npos) << focus.out;
+    EXPECT_FALSE(std::filesystem::exists(host.file)) << "showing a page writes nothing";
 }
 
 // A tool with a global shortcut, built on the command line's own platform.

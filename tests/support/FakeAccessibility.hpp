@@ -2,6 +2,7 @@
 
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -50,26 +51,78 @@ struct FakeAccessibility : Accessibility {
     std::map<int, int> observersCreated;
     std::vector<Observer*> observers;
     std::vector<float> timeouts;
+    // Attribute values by element and name; writes land here too, and in `writes`.
+    std::map<std::pair<const AccessibilityElement*, std::string>, AccessibilityValue> attributes;
+    std::vector<std::pair<std::string, AccessibilityValue>> writes;
+    std::map<std::string, std::int32_t> writeAnswers;  // a failing attribute, by name
+    // What lies where on screen, topmost first.
+    std::vector<std::pair<Rect, Element>> hitAreas;
+    std::vector<std::pair<Element, std::string>> actions;
+    Element systemWideElement = std::make_shared<FakeElement>(0, "system-wide");
 
-    Element systemWide() override { return std::make_shared<FakeElement>(0, "system-wide"); }
+    // A window of an application, with its frame readable as position and size.
+    Element makeWindow(int pid, Rect frame) {
+        Element window = std::make_shared<FakeElement>(pid, "window");
+        attributes[{window.get(), "AXRole"}] = std::string("AXWindow");
+        attributes[{window.get(), "AXPosition"}] = frame.origin;
+        attributes[{window.get(), "AXSize"}] = frame.size;
+        return window;
+    }
+    std::optional<Rect> frameOf(const Element& window) {
+        const auto position = attributes.find({window.get(), "AXPosition"});
+        const auto size = attributes.find({window.get(), "AXSize"});
+        if (position == attributes.end() || size == attributes.end()) {
+            return std::nullopt;
+        }
+        return Rect(std::get<Point>(position->second), std::get<Size>(size->second));
+    }
+
+    Element systemWide() override { return systemWideElement; }
+    // One element per application, so attributes set on it in a test are found again.
+    std::map<int, Element> applicationElements;
     Element application(int pid) override {
-        return std::make_shared<FakeElement>(pid, "application");
+        Element& element = applicationElements[pid];
+        if (!element) {
+            element = std::make_shared<FakeElement>(pid, "application");
+        }
+        return element;
     }
-    std::int32_t copyAttribute(const Element&, std::string_view, AccessibilityValue&) override {
-        return kNoValue;
-    }
-    std::int32_t setAttribute(const Element&, std::string_view,
-                              const AccessibilityValue&) override {
+    std::int32_t copyAttribute(const Element& element, std::string_view attribute,
+                               AccessibilityValue& value) override {
+        const auto found = attributes.find({element.get(), std::string(attribute)});
+        if (found == attributes.end()) {
+            return kNoValue;
+        }
+        value = found->second;
         return kSuccess;
     }
-    std::int32_t elementAtPosition(const Element&, float, float, Element&) override {
+    std::int32_t setAttribute(const Element& element, std::string_view attribute,
+                              const AccessibilityValue& value) override {
+        const auto answer = writeAnswers.find(std::string(attribute));
+        if (answer != writeAnswers.end()) {
+            return answer->second;
+        }
+        attributes[{element.get(), std::string(attribute)}] = value;
+        writes.emplace_back(std::string(attribute), value);
+        return kSuccess;
+    }
+    std::int32_t elementAtPosition(const Element&, float x, float y, Element& element) override {
+        for (const auto& [area, hit] : hitAreas) {
+            if (area.contains({x, y})) {
+                element = hit;
+                return kSuccess;
+            }
+        }
         return kNoValue;
     }
     std::int32_t pid(const Element& element, int& pid) override {
         pid = static_cast<const FakeElement&>(*element).pid;
         return kSuccess;
     }
-    std::int32_t performAction(const Element&, std::string_view) override { return kSuccess; }
+    std::int32_t performAction(const Element& element, std::string_view action) override {
+        actions.emplace_back(element, std::string(action));
+        return kSuccess;
+    }
     std::int32_t setMessagingTimeout(const Element&, float seconds) override {
         timeouts.push_back(seconds);
         return kSuccess;

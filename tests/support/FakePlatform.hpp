@@ -9,10 +9,12 @@
 #include "support/FakeEventMonitors.hpp"
 #include "support/FakeEventSystem.hpp"
 #include "support/FakeHotKeySystem.hpp"
+#include "support/FakeKeyboardLayout.hpp"
 #include "support/FakeMenuBar.hpp"
 #include "support/FakePermissionProbe.hpp"
 #include "support/FakeProcessFacts.hpp"
 #include "support/FakeScreens.hpp"
+#include "support/FakeWindowList.hpp"
 #include "support/FakeWorkspace.hpp"
 #include "support/ManualScheduler.hpp"
 
@@ -36,11 +38,14 @@ struct FakePlatform {
     FakeAudioHardware audioHardware;
     FakeProcessFacts processFacts;
     InputServices input{hotKeys, screens, scheduler};
+    FakeKeyboardLayout keyboardLayout;
+    FakeWindowList windowList;
 
     Platform platform() {
-        return {preferences, scheduler,     permissionProbe, workspace,     notifications,
-                events,      hotKeys,       accessibility,   eventMonitors, screens,
-                menuBar,     audioHardware, processFacts,    input};
+        return {preferences,   scheduler, permissionProbe, workspace,
+                notifications, events,    hotKeys,         accessibility,
+                eventMonitors, screens,   menuBar,         audioHardware,
+                processFacts,  input,     keyboardLayout,  windowList};
     }
 };
 

@@ -32,8 +32,16 @@ struct FakeWorkspace : Workspace {
         const auto found = applications.find(pid);
         return found == applications.end() ? std::nullopt : std::optional(found->second);
     }
-    std::optional<RunningApplication> frontmostApplication() override { return std::nullopt; }
+    std::optional<int> frontmostPID;
+    std::vector<int> activated;
+    std::optional<RunningApplication> frontmostApplication() override {
+        return frontmostPID ? runningApplication(*frontmostPID) : std::nullopt;
+    }
     int currentProcessID() override { return ownPID; }
+    bool activate(int pid) override {
+        activated.push_back(pid);
+        return applications.contains(pid);
+    }
     Subscription observe(WorkspaceNotification notification, Handler handler) override {
         return observers[notification].add(std::move(handler));
     }
@@ -45,6 +53,14 @@ struct FakeWorkspace : Workspace {
         return listObservers.add(std::move(handler));
     }
 
+    // An application that is simply running, for tests that need one in the list.
+    RunningApplication& add(int pid, std::string bundleID, std::string name = {}) {
+        RunningApplication& app = applications[pid];
+        app.pid = pid;
+        app.bundleID = std::move(bundleID);
+        app.name = std::move(name);
+        return app;
+    }
     // Starts an application: it joins the list, and both the list observers and the launch
     // notification hear of it.
     void launch(int pid, RunningApplication::ActivationPolicy policy =
