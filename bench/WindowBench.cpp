@@ -11,14 +11,14 @@ void BM_WindowDragPerDraggedEvent(benchmark::State& state) {
     WindowDragEngine engine;
     const Rect window(100, 100, 800, 600);
     const WindowDragEngine::WindowFrameAt frameAt = [&](Point) { return std::optional(window); };
-    engine.handle(WindowDragEngine::kRightMouseDown, 0x140000, {790, 690}, Seconds(0), frameAt);
+    engine.handle(EventType::rightMouseDown, 0x140000, {790, 690}, Seconds(0), frameAt);
     double t = 0;
     double x = 790;
     for (auto _ : state) {
         t += 0.005;
         x += 0.5;
-        auto outcome = engine.handle(WindowDragEngine::kRightMouseDragged, 0x140000, {x, 690},
-                                     Seconds(t), frameAt);
+        auto outcome =
+            engine.handle(EventType::rightMouseDragged, 0x140000, {x, 690}, Seconds(t), frameAt);
         benchmark::DoNotOptimize(outcome);
     }
 }

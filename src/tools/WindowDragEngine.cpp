@@ -58,21 +58,22 @@ std::optional<WindowDragEngine::Keys> WindowDragEngine::keysFromRawValue(std::st
     return std::nullopt;
 }
 
-WindowDragEngine::Outcome WindowDragEngine::handle(std::uint32_t type, std::uint64_t flags,
+WindowDragEngine::Outcome WindowDragEngine::handle(EventType type, std::uint64_t flags,
                                                    Point location, Seconds now,
                                                    const WindowFrameAt& windowFrameAt) {
     Outcome outcome;
     switch (type) {
-        case kLeftMouseDown:
-        case kRightMouseDown:
+        case EventType::leftMouseDown:
+        case EventType::rightMouseDown:
             // A new press always ends whatever drag came before it.
             reset();
-            outcome.started = begin(type == kRightMouseDown, flags, location, windowFrameAt);
+            outcome.started =
+                begin(type == EventType::rightMouseDown, flags, location, windowFrameAt);
             outcome.pass = !outcome.started;
             return outcome;
-        case kLeftMouseUp:
-        case kRightMouseUp:
-            if (!drag_ || drag_->isRightButton != (type == kRightMouseUp)) {
+        case EventType::leftMouseUp:
+        case EventType::rightMouseUp:
+            if (!drag_ || drag_->isRightButton != (type == EventType::rightMouseUp)) {
                 return outcome;
             }
             if (pendingMouse_) {
@@ -81,9 +82,9 @@ WindowDragEngine::Outcome WindowDragEngine::handle(std::uint32_t type, std::uint
             reset();
             outcome.pass = false;
             return outcome;
-        case kLeftMouseDragged:
-        case kRightMouseDragged:
-            if (!drag_ || drag_->isRightButton != (type == kRightMouseDragged)) {
+        case EventType::leftMouseDragged:
+        case EventType::rightMouseDragged:
+            if (!drag_ || drag_->isRightButton != (type == EventType::rightMouseDragged)) {
                 return outcome;
             }
             outcome.pass = false;

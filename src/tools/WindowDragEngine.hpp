@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "base/Rect.hpp"
+#include "platform/EventType.hpp"
 #include "platform/Scheduler.hpp"
 
 namespace quorvane {
@@ -24,14 +25,6 @@ public:
     static constexpr double kMinimumWidth = 160;
     static constexpr double kMinimumHeight = 100;
 
-    // Mouse event types as the platform numbers them.
-    static constexpr std::uint32_t kLeftMouseDown = 1;
-    static constexpr std::uint32_t kLeftMouseUp = 2;
-    static constexpr std::uint32_t kRightMouseDown = 3;
-    static constexpr std::uint32_t kRightMouseUp = 4;
-    static constexpr std::uint32_t kLeftMouseDragged = 6;
-    static constexpr std::uint32_t kRightMouseDragged = 7;
-
     // A new origin for the window, and a new size when resizing.
     struct Placement {
         Point position;
@@ -49,7 +42,7 @@ public:
 
     explicit WindowDragEngine(Keys keys = Keys::controlCommand) : keys_(keys) {}
 
-    Outcome handle(std::uint32_t type, std::uint64_t flags, Point location, Seconds now,
+    Outcome handle(EventType type, std::uint64_t flags, Point location, Seconds now,
                    const WindowFrameAt& windowFrameAt);
 
     void setKeys(Keys keys) { keys_ = keys; }

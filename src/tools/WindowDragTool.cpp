@@ -51,7 +51,7 @@ bool WindowDragTool::handle(EventType type, Event& event) {
         window_ = windows_.windowAt(point);
         return windows_.frame(window_);
     };
-    const auto outcome = engine_.handle(raw(type), event.flags(), event.location(),
+    const auto outcome = engine_.handle(type, event.flags(), event.location(),
                                         platform_.scheduler.now(), windowFrameAt);
     if (outcome.started && bringsToFront_) {
         bringForward();

@@ -19,44 +19,44 @@ struct DragTest : ::testing::Test {
         ++lookups;
         return window.contains(p) ? std::optional(window) : std::nullopt;
     };
-    Engine::Outcome send(std::uint32_t type, Point p, double seconds,
+    Engine::Outcome send(EventType type, Point p, double seconds,
                          std::uint64_t flags = kControl | kCommand) {
         return engine.handle(type, flags, p, Seconds(seconds), frameAt);
     }
 };
 
 TEST_F(DragTest, OnlyTheExactCombinationStartsADrag) {
-    EXPECT_TRUE(send(Engine::kLeftMouseDown, {150, 150}, 0, kControl).pass);
+    EXPECT_TRUE(send(EventType::leftMouseDown, {150, 150}, 0, kControl).pass);
     EXPECT_EQ(lookups, 0) << "an ordinary click costs no window lookup";
-    EXPECT_TRUE(send(Engine::kLeftMouseDown, {150, 150}, 0, kControl | kCommand | kOption).pass);
-    EXPECT_TRUE(send(Engine::kLeftMouseDown, {50, 50}, 0).pass) << "no window under the mouse";
-    EXPECT_TRUE(send(Engine::kLeftMouseDragged, {60, 60}, 0).pass);
+    EXPECT_TRUE(send(EventType::leftMouseDown, {150, 150}, 0, kControl | kCommand | kOption).pass);
+    EXPECT_TRUE(send(EventType::leftMouseDown, {50, 50}, 0).pass) << "no window under the mouse";
+    EXPECT_TRUE(send(EventType::leftMouseDragged, {60, 60}, 0).pass);
 
-    const auto down = send(Engine::kLeftMouseDown, {150, 150}, 0, kControl | kCommand | kShift);
+    const auto down = send(EventType::leftMouseDown, {150, 150}, 0, kControl | kCommand | kShift);
     EXPECT_FALSE(down.pass);
     EXPECT_TRUE(down.started);
     EXPECT_TRUE(engine.isResizing()) << "⇧ with the left button resizes";
-    EXPECT_TRUE(send(12, {150, 150}, 0).pass) << "other event types pass";
+    EXPECT_TRUE(send(EventType::keyDown, {150, 150}, 0).pass) << "other event types pass";
 }
 
 TEST_F(DragTest, MovesFollowTheMouseAndTheOtherButtonDoesNotEndTheDrag) {
-    send(Engine::kLeftMouseDown, {150, 150}, 0);
-    const auto moved = send(Engine::kLeftMouseDragged, {170, 140}, 1);
+    send(EventType::leftMouseDown, {150, 150}, 0);
+    const auto moved = send(EventType::leftMouseDragged, {170, 140}, 1);
     EXPECT_EQ(moved.place, (Engine::Placement{{120, 90}, std::nullopt}));
-    EXPECT_TRUE(send(Engine::kRightMouseUp, {170, 140}, 1.1).pass);
-    EXPECT_TRUE(send(Engine::kRightMouseDragged, {170, 140}, 1.2).pass);
+    EXPECT_TRUE(send(EventType::rightMouseUp, {170, 140}, 1.1).pass);
+    EXPECT_TRUE(send(EventType::rightMouseDragged, {170, 140}, 1.2).pass);
     EXPECT_TRUE(engine.isDragging());
-    EXPECT_FALSE(send(Engine::kLeftMouseUp, {170, 140}, 1.3).pass);
+    EXPECT_FALSE(send(EventType::leftMouseUp, {170, 140}, 1.3).pass);
     EXPECT_FALSE(engine.isDragging());
 }
 
 TEST_F(DragTest, EventsEveryTwoMillisecondsApplyAtMost120TimesASecondAndTheLastOnRelease) {
-    send(Engine::kLeftMouseDown, {150, 150}, 0);
+    send(EventType::leftMouseDown, {150, 150}, 0);
     std::vector<double> appliedAt;
     double t = 0;
     for (int i = 1; i <= 50; ++i) {
         t = i * 0.002;
-        const auto outcome = send(Engine::kLeftMouseDragged, {150.0 + i, 150}, t);
+        const auto outcome = send(EventType::leftMouseDragged, {150.0 + i, 150}, t);
         EXPECT_FALSE(outcome.pass);
         if (outcome.place) {
             appliedAt.push_back(t);
@@ -67,7 +67,7 @@ TEST_F(DragTest, EventsEveryTwoMillisecondsApplyAtMost120TimesASecondAndTheLastO
         EXPECT_GE(appliedAt[i] - appliedAt[i - 1], 1.0 / 120.0 - 1e-12);
     }
     EXPECT_LE(appliedAt.size(), 13u);
-    const auto up = send(Engine::kLeftMouseUp, {999, 999}, t + 0.001);
+    const auto up = send(EventType::leftMouseUp, {999, 999}, t + 0.001);
     ASSERT_TRUE(up.place) << "the throttled last point is not lost";
     EXPECT_EQ(up.place->position, (Point{150, 100}))
         << "the last dragged point, not the release point";
@@ -75,18 +75,18 @@ TEST_F(DragTest, EventsEveryTwoMillisecondsApplyAtMost120TimesASecondAndTheLastO
 
 TEST_F(DragTest, ResizingKeepsTheOppositeEdgesAndTheMinimumSize) {
     // Grabbed near the left edge, in the middle third vertically: only the width changes.
-    send(Engine::kRightMouseDown, {110, 250}, 0);
-    const auto narrow = send(Engine::kRightMouseDragged, {400, 250}, 1);
+    send(EventType::rightMouseDown, {110, 250}, 0);
+    const auto narrow = send(EventType::rightMouseDragged, {400, 250}, 1);
     ASSERT_TRUE(narrow.place && narrow.place->size);
     EXPECT_EQ(narrow.place->size->width, 160);
     EXPECT_EQ(narrow.place->position.x + narrow.place->size->width, 400) << "right edge fixed";
     EXPECT_EQ(narrow.place->size->height, 300);
 
     // Exactly a third of the way in is the middle: both edges 0, so the bottom-right corner moves.
-    send(Engine::kRightMouseDown, {200, 200}, 2);
-    const auto corner = send(Engine::kRightMouseDragged, {150, 100}, 3);
+    send(EventType::rightMouseDown, {200, 200}, 2);
+    const auto corner = send(EventType::rightMouseDragged, {150, 100}, 3);
     EXPECT_EQ(corner.place, (Engine::Placement{{100, 100}, Size{250, 200}}));
-    const auto tiny = send(Engine::kRightMouseDragged, {-500, -500}, 4);
+    const auto tiny = send(EventType::rightMouseDragged, {-500, -500}, 4);
     EXPECT_EQ(tiny.place->size, (Size{160, 100}));
 }
 
