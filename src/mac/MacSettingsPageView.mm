@@ -304,6 +304,9 @@ NSControlStateValue stateValue(bool on) {
       conflict.hidden = !(shortcut->hasConflict && shortcut->hasConflict());
     }];
     NSStackView* line = quorvane::makeRow(8);
+    if (!shortcut->symbol.empty()) {
+        [line addArrangedSubview:quorvane::makeSymbol(shortcut->symbol, 15)];
+    }
     [line addArrangedSubview:quorvane::makeLabel(shortcut->label)];
     [line addArrangedSubview:keys];
     [line addArrangedSubview:record];
