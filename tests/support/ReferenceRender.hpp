@@ -66,8 +66,8 @@ inline void referenceRender(const TapRenderContext& context, std::span<const Aud
                         for (std::size_t b = 0; b < 10; ++b) {
                             auto& m = context.equalizer->memory[std::min<std::size_t>(a, 7)][b];
                             const float* q = &set[1 + 5 * b];
-                            const float y = q[0] * s + q[1] * m.x1 + q[2] * m.x2 - q[3] * m.y1 -
-                                            q[4] * m.y2;
+                            const float y =
+                                q[0] * s + q[1] * m.x1 + q[2] * m.x2 - q[3] * m.y1 - q[4] * m.y2;
                             m.x2 = m.x1;
                             m.x1 = s;
                             m.y2 = m.y1;
