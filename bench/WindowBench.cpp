@@ -1,7 +1,7 @@
 #include <benchmark/benchmark.h>
 
-#include "tools/WindowDragEngine.hpp"
-#include "tools/WindowSnapPlan.hpp"
+#include "tools/windows/WindowDragEngine.hpp"
+#include "tools/windows/WindowSnapPlan.hpp"
 
 namespace quorvane {
 namespace {

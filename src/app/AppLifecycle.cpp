@@ -7,6 +7,7 @@
 #include "app/ToolRegistry.hpp"
 #include "platform/AppInstance.hpp"
 #include "platform/AppWindows.hpp"
+#include "platform/Workspace.hpp"
 #include "ui/FirstRunModel.hpp"
 #include "ui/MenuModel.hpp"
 #include "ui/PanelContent.hpp"
@@ -33,6 +34,8 @@ void AppLifecycle::didFinishLaunching() {
     registry_->onNeedsSetup = [this](Tool& tool) { showTool(tool); };
     permissions_->onChange = [this] { registry_->reconcile(); };
     registry_->reconcile();
+    preferencesChanged_ = platform_.workspace.observeDistributed(
+        ToolRegistry::kPreferencesChanged, [this] { registry_->reloadPreferences(); });
 
     cardActions_ = std::make_unique<PermissionCardActions>(*permissions_, shell_.instance);
     launchAtLogin_ = std::make_unique<LaunchAtLogin>(shell_.loginItem);

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "app/Tool.hpp"
+#include "base/Subscription.hpp"
 #include "platform/Platform.hpp"
 
 namespace quorvane {
@@ -68,6 +69,8 @@ private:
     // Declared in construction order, so each is destroyed before what it refers to.
     std::unique_ptr<PermissionCenter> permissions_;
     std::unique_ptr<ToolRegistry> registry_;
+    // The command line's word that the preferences changed.
+    Subscription preferencesChanged_;
     std::unique_ptr<PermissionCardActions> cardActions_;
     std::unique_ptr<LaunchAtLogin> launchAtLogin_;
     std::unique_ptr<SettingsWindowModel> settings_;

@@ -1,39 +1,33 @@
 #include "app/ToolCatalog.hpp"
 
-#include <map>
-#include <string_view>
-
 #include "platform/Platform.hpp"
-#include "tools/EqualizerTool.hpp"
 #include "tools/PlannedTool.hpp"
-#include "tools/StopFocusStealingTool.hpp"
-#include "tools/WindowDragTool.hpp"
-#include "tools/WindowSnapTool.hpp"
+#include "tools/input/InputTools.hpp"
+#include "tools/keyboard/KeyboardTools.hpp"
+#include "tools/sound/SoundTools.hpp"
+#include "tools/system/SystemTools.hpp"
+#include "tools/windows/WindowTools.hpp"
 
 namespace quorvane {
 
 namespace {
 
-using Factory = std::unique_ptr<Tool> (*)(const ToolDescriptor&, const Platform&);
-
-// A tool whose behaviour has been built is listed here by id, and from then on replaces its
-// planned stand-in, e.g.
-//   {"window-snap", [](const ToolDescriptor& d, const Platform& p) -> std::unique_ptr<Tool> {
-//        return std::make_unique<WindowSnapTool>(d, p); }},
-// Everything not listed stays a PlannedTool, so the catalog is always complete.
-template <typename BuiltTool>
-std::unique_ptr<Tool> build(const ToolDescriptor& descriptor, const Platform& platform) {
-    return std::make_unique<BuiltTool>(descriptor, platform);
-}
-
-const std::map<std::string_view, Factory>& builtTools() {
-    static const std::map<std::string_view, Factory> factories = {
-        {"equalizer", &build<EqualizerTool>},
-        {"stop-focus-stealing", &build<StopFocusStealingTool>},
-        {"window-drag", &build<WindowDragTool>},
-        {"window-snap", &build<WindowSnapTool>},
-    };
-    return factories;
+// A built tool is listed in its category's table and from then on replaces its planned
+// stand-in; everything not listed stays a PlannedTool, so the catalog is always complete.
+const ToolFactories& builtTools(ToolCategory category) {
+    switch (category) {
+        case ToolCategory::windows:
+            return windowsTools();
+        case ToolCategory::keyboard:
+            return keyboardTools();
+        case ToolCategory::input:
+            return inputTools();
+        case ToolCategory::sound:
+            return soundTools();
+        case ToolCategory::system:
+            return systemTools();
+    }
+    return systemTools();
 }
 
 }  // namespace
@@ -160,7 +154,7 @@ std::span<const ToolDescriptor> ToolCatalog::descriptors() {
                       "dock.arrow.up.rectangle",
                       {"multi monitor", "external monitor", "delay", "jump"},
                       windows,
-                      {}},
+                      {accessibility}},
          .refreshDoesNothing = true},
         {.identity = {"instant-dock",
                       "Instant Dock",
@@ -253,7 +247,7 @@ std::span<const ToolDescriptor> ToolCatalog::descriptors() {
                       "arrow.up.arrow.down",
                       {"reverse", "invert", "wheel", "swipe"},
                       input,
-                      {}}},
+                      {accessibility}}},
         {.identity = {"smooth-scrolling",
                       "Smooth Mouse Scrolling",
                       "Makes a regular mouse wheel scroll smoothly instead of in jerky jumps, "
@@ -312,7 +306,7 @@ std::span<const ToolDescriptor> ToolCatalog::descriptors() {
                       "speaker.wave.3",
                       {"hud", "osd", "on-screen display", "popup"},
                       sound,
-                      {}}},
+                      {accessibility}}},
         {.identity = {"mute-startup-sound",
                       "Mute Startup Sound",
                       "Silences the chime your Mac plays when it starts up, so turning it on in "
@@ -514,7 +508,7 @@ std::span<const ToolDescriptor> ToolCatalog::descriptors() {
                       "camera.viewfinder",
                       {"screen capture", "png", "jpg", "save location"},
                       system,
-                      {accessibility}},
+                      {}},
          .settingsOnly = true,
          .refreshDoesNothing = true},
         {.identity = {"screenshot-screen",
@@ -524,7 +518,7 @@ std::span<const ToolDescriptor> ToolCatalog::descriptors() {
                       "display.2",
                       {"thumbnail", "multi monitor", "external monitor", "capture"},
                       system,
-                      {accessibility}}},
+                      {screenRecording}}},
         {.identity = {"color-picker",
                       "Color Picker",
                       "Pick the color of any pixel on the screen with a shortcut and copy it as "
@@ -648,9 +642,10 @@ std::vector<std::unique_ptr<Tool>> ToolCatalog::makeTools(const Platform& platfo
     std::vector<std::unique_ptr<Tool>> tools;
     tools.reserve(catalog.size());
     for (const ToolDescriptor& descriptor : catalog) {
-        const auto built = builtTools().find(descriptor.identity.id);
-        tools.push_back(built != builtTools().end() ? built->second(descriptor, platform)
-                                                    : std::make_unique<PlannedTool>(descriptor));
+        const ToolFactories& built = builtTools(descriptor.identity.category);
+        const auto factory = built.find(descriptor.identity.id);
+        tools.push_back(factory != built.end() ? factory->second(descriptor, platform)
+                                               : std::make_unique<PlannedTool>(descriptor));
     }
     return tools;
 }

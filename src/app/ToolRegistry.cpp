@@ -55,20 +55,11 @@ std::string ToolRegistry::enabledKey(std::string_view id) {
 
 ToolRegistry::ToolRegistry(std::vector<std::unique_ptr<Tool>> tools, PermissionCenter& permissions,
                            Preferences& preferences, NotificationBus& notifications)
-    : tools_(std::move(tools)), permissions_(permissions), preferences_(preferences) {
-    for (const auto& tool : tools_) {
-        if (isEnabled(*tool, preferences_)) {
-            enabledIDs_.insert(tool->id());
-        }
-    }
-    // Ids of tools that no longer exist are dropped here; the pruned list is written back only
-    // with the next change, so a downgrade does not lose a newer version's tiles for nothing.
-    for (auto& id : preferences_.stringArray(kControlsKey).value_or(std::vector<std::string>{})) {
-        if (indexOfTool(id) &&
-            std::find(controlIDs_.begin(), controlIDs_.end(), id) == controlIDs_.end()) {
-            controlIDs_.push_back(std::move(id));
-        }
-    }
+    : tools_(std::move(tools)),
+      permissions_(permissions),
+      preferences_(preferences),
+      enabledIDs_(storedEnabledIDs()),
+      controlIDs_(storedControlIDs()) {
     turnOffToken_ = notifications.observe(
         kTurnedItselfOff,
         [this](const std::optional<std::string>& id) { handleSelfSwitch(id, false); });
@@ -78,6 +69,39 @@ ToolRegistry::ToolRegistry(std::vector<std::unique_ptr<Tool>> tools, PermissionC
 }
 
 ToolRegistry::~ToolRegistry() = default;
+
+std::set<std::string> ToolRegistry::storedEnabledIDs() const {
+    std::set<std::string> ids;
+    for (const auto& tool : tools_) {
+        if (isEnabled(*tool, preferences_)) {
+            ids.insert(tool->id());
+        }
+    }
+    return ids;
+}
+
+std::vector<std::string> ToolRegistry::storedControlIDs() const {
+    // Ids of tools that no longer exist are dropped here; the pruned list is written back only
+    // with the next change, so a downgrade does not lose a newer version's tiles for nothing.
+    std::vector<std::string> ids;
+    for (auto& id : preferences_.stringArray(kControlsKey).value_or(std::vector<std::string>{})) {
+        if (indexOfTool(id) && std::find(ids.begin(), ids.end(), id) == ids.end()) {
+            ids.push_back(std::move(id));
+        }
+    }
+    return ids;
+}
+
+void ToolRegistry::reloadPreferences() {
+    auto enabled = storedEnabledIDs();
+    auto controls = storedControlIDs();
+    if (enabled != enabledIDs_ || controls != controlIDs_) {
+        enabledIDs_ = std::move(enabled);
+        controlIDs_ = std::move(controls);
+        publish();
+    }
+    reconcile();
+}
 
 bool ToolRegistry::isEnabled(const Tool& tool, const Preferences& defaults) {
     return defaults.boolean(enabledKey(tool.id())).value_or(tool.isEnabledByDefault());

@@ -27,6 +27,9 @@ public:
     static constexpr const char* kControlsKey = "controls.toolIDs";
     static constexpr const char* kTurnedItselfOff = "QuorvaneToolTurnedItselfOff";
     static constexpr const char* kTurnedItselfOn = "QuorvaneToolTurnedItselfOn";
+    // Posted by the command line to a running app, with no payload: the app's preferences
+    // changed from outside, so it reads them again. Another process can say no more than that.
+    static constexpr const char* kPreferencesChanged = "com.quorvane.app.preferencesChanged";
     static std::string enabledKey(std::string_view id);
 
     ToolRegistry(std::vector<std::unique_ptr<Tool>> tools, PermissionCenter& permissions,
@@ -60,10 +63,15 @@ public:
     // Starts every enabled tool whose permissions are granted, stops the others, and tidies
     // each tool that is off once per process.
     void reconcile();
+    // Reads the enabled states and the control order again from the preferences (changed by
+    // the command line), publishes what differs and reconciles.
+    void reloadPreferences();
     // At quit: stops every running tool, in registry order, without tidying.
     void stopAll();
 
 private:
+    std::set<std::string> storedEnabledIDs() const;
+    std::vector<std::string> storedControlIDs() const;
     void handleSelfSwitch(const std::optional<std::string>& id, bool on);
 
     std::vector<std::unique_ptr<Tool>> tools_;

@@ -43,7 +43,7 @@ AppAudioTap::AppAudioTap(AudioHardware& hardware, const EqualizerEngine& engine,
       processObjects_(std::move(processObjects)),
       outputDevice_(outputDevice),
       isGlobal_(kind == Kind::global),
-      control_(gain),
+      realTime_(std::make_shared<RealTime>(gain)),
       isRunning_(running) {
     try {
         setUp(engine);
@@ -99,10 +99,12 @@ void AppAudioTap::setUp(const EqualizerEngine& engine) {
     const auto format =
         readProperty<AudioStreamFormat>(hardware_, tapID_, hal::globalAddress(hal::kTapFormat));
     const bool oneBufferPerChannel = (format.formatFlags & hal::kFormatFlagIsNonInterleaved) != 0;
-    context_ = {oneBufferPerChannel ? format.channelsPerFrame : 1, &control_, &equalizer_, &engine};
+    realTime_->context = {oneBufferPerChannel ? format.channelsPerFrame : 1, &realTime_->control,
+                          &realTime_->equalizer, &engine};
 
     AudioHardware::IOProcID procID = 0;
-    check(hardware_.createIOProcID(aggregateID_, &AppAudioTap::render, &context_, procID),
+    check(hardware_.createIOProcID(aggregateID_, &AppAudioTap::render,
+                                   std::shared_ptr<void>(realTime_, &realTime_->context), procID),
           "Creating the audio callback");
     ioProcID_ = procID;
     if (isRunning_) {

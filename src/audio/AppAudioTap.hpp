@@ -53,14 +53,14 @@ public:
     const std::vector<AudioObjectID>& processObjects() const { return processObjects_; }
     AudioObjectID outputDevice() const { return outputDevice_; }
     bool isGlobal() const { return isGlobal_; }
-    GainControl& control() { return control_; }
+    GainControl& control() { return realTime_->control; }
     AudioObjectID tapID() const { return tapID_; }
     AudioObjectID aggregateID() const { return aggregateID_; }
     std::optional<AudioHardware::IOProcID> ioProcID() const { return ioProcID_; }
     bool isRunning() const { return isRunning_; }
 
     // Main thread: the gain the procedure moves to over its next cycle.
-    void setGain(float gain) { control_.setTarget(gain); }
+    void setGain(float gain) { realTime_->control.setTarget(gain); }
     // Starts or stops the aggregate device without rebuilding anything. Throws CoreAudioError
     // when starting fails; the tap then stays stopped.
     void setRunning(bool running);
@@ -78,9 +78,15 @@ private:
     std::vector<AudioObjectID> processObjects_;
     AudioObjectID outputDevice_;
     bool isGlobal_;
-    GainControl control_;
-    EqualizerState equalizer_;
-    TapRenderContext context_;
+    // What the real-time procedure works on. Shared with the procedure, which may outlive this
+    // tap by the time the platform takes to destroy it.
+    struct RealTime {
+        explicit RealTime(float gain) : control(gain) {}
+        GainControl control;
+        EqualizerState equalizer;
+        TapRenderContext context;
+    };
+    std::shared_ptr<RealTime> realTime_;
     AudioObjectID tapID_ = 0;
     AudioObjectID aggregateID_ = 0;
     std::optional<AudioHardware::IOProcID> ioProcID_;

@@ -35,12 +35,21 @@ inline constexpr std::uint32_t kDeviceUID = fourCharCode("uid ");
 inline constexpr std::uint32_t kTransportType = fourCharCode("tran");
 inline constexpr std::uint32_t kStreams = fourCharCode("stm#");
 inline constexpr std::uint32_t kNominalSampleRate = fourCharCode("nsrt");
+inline constexpr std::uint32_t kStreamConfiguration = fourCharCode("slay");
+inline constexpr std::uint32_t kMute = fourCharCode("mute");
+inline constexpr std::uint32_t kVolumeScalar = fourCharCode("volm");
 // Process objects.
 inline constexpr std::uint32_t kProcessPID = fourCharCode("ppid");
 inline constexpr std::uint32_t kProcessBundleID = fourCharCode("pbid");
 inline constexpr std::uint32_t kProcessIsRunningOutput = fourCharCode("piro");
 // Taps.
 inline constexpr std::uint32_t kTapFormat = fourCharCode("tfmt");
+
+// Transport types.
+inline constexpr std::uint32_t kTransportBuiltIn = fourCharCode("bltn");
+inline constexpr std::uint32_t kTransportBluetooth = fourCharCode("blue");
+inline constexpr std::uint32_t kTransportBluetoothLE = fourCharCode("blea");
+inline constexpr std::uint32_t kTransportUSB = fourCharCode("usb ");
 
 // Stream format flag: one buffer per channel instead of interleaved samples.
 inline constexpr std::uint32_t kFormatFlagIsNonInterleaved = 0x20;

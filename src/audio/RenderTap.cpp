@@ -1,6 +1,7 @@
 #include "audio/RenderTap.hpp"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstddef>
 #include <numeric>
@@ -280,11 +281,44 @@ void equalizeLanes(float* out, std::size_t frames, std::size_t base, const Coeff
     }
 }
 
+// A coefficient set caught between two quick updates, or any other upset, can leave NaN or
+// infinity in a channel's filter memory, where the recursion would keep it for good and silence
+// the tap until it is rebuilt. Checked once per buffer, not per sample: a channel whose memory
+// is no longer finite starts again from rest, and its samples of this buffer are silence.
+void recover(float* out, std::size_t frames, std::size_t channels, std::size_t base,
+             EqualizerState& state) {
+    // Channels past the eighth share its memory, so every channel is judged by its memory as it
+    // was during the buffer, before any of them is reset.
+    std::array<bool, EqualizerState::kChannels> upset{};
+    for (std::size_t m = std::min(base, EqualizerState::kChannels - 1);
+         m < std::min(base + channels, EqualizerState::kChannels); ++m) {
+        float sum = 0.0f;
+        for (const EqualizerState::Section& section : state.memory[m]) {
+            sum += section.x1 + section.x2 + section.y1 + section.y2;
+        }
+        upset[m] = !std::isfinite(sum);
+    }
+    for (std::size_t c = 0; c < channels; ++c) {
+        if (!upset[std::min(base + c, EqualizerState::kChannels - 1)]) {
+            continue;
+        }
+        for (std::size_t f = 0; f < frames; ++f) {
+            out[f * channels + c] = 0.0f;
+        }
+    }
+    for (std::size_t m = 0; m < EqualizerState::kChannels; ++m) {
+        if (upset[m]) {
+            state.memory[m] = {};
+        }
+    }
+}
+
 void equalize(float* out, std::size_t frames, std::size_t channels, std::size_t base,
               const CoefficientSet& set, EqualizerState& state) {
     // Channels from the eighth on share memory, so only the frame-by-frame order is right there.
     if (base + channels > EqualizerState::kChannels) {
         equalizeFrames(out, frames, channels, base, set, state);
+        recover(out, frames, channels, base, state);
         return;
     }
     using Kernel =
@@ -293,6 +327,7 @@ void equalize(float* out, std::size_t frames, std::size_t channels, std::size_t 
                                           &equalizeLanes<4>, &equalizeLanes<5>, &equalizeLanes<6>,
                                           &equalizeLanes<7>, &equalizeLanes<8>};
     kKernels[channels - 1](out, frames, base, set, state);
+    recover(out, frames, channels, base, state);
 }
 
 // Peaks, envelope, then the samples, a block of frames at a time: only the envelope is a chain
@@ -377,7 +412,8 @@ void renderTap(const TapRenderContext& context, std::span<const AudioBufferView>
             const float envelope =
                 limit(out, frames, channels, keepsEnvelope ? control.envelope(k) : 0.0f);
             if (keepsEnvelope) {
-                control.setEnvelope(k, envelope);
+                // A NaN envelope would never compare greater or smaller again.
+                control.setEnvelope(k, std::isfinite(envelope) ? envelope : 0.0f);
             }
         }
         base += channels;

@@ -3,12 +3,15 @@
 #include <memory>
 #include <string>
 
+#include "platform/ChildProcesses.hpp"
+#include "platform/PreferenceDomains.hpp"
+
 namespace quorvane {
 
 class Preferences;
 
 // What the command line needs from the system it runs on: the application's own preference
-// store, and a way to tell a running Quorvane that a tool was switched from here.
+// store, and a way to tell a running Quorvane that the store changed from here.
 class CommandHost {
 public:
     virtual ~CommandHost() = default;
@@ -17,8 +20,14 @@ public:
     virtual std::unique_ptr<Preferences> openDefaultPreferences(std::string& error) = 0;
     // Where that store lives, for --help.
     virtual std::string defaultPreferencesDescription() const = 0;
-    // Posts a self-switch notification with the tool's id to a running application, if any.
-    virtual void announce(const std::string& notificationName, const std::string& toolID) = 0;
+    // Tells a running application, if any, to read its preferences again. Nothing more: what
+    // changed is in the store, so no other process can switch a tool by sending a name.
+    virtual void preferencesChanged() = 0;
+    // Other programs' preference domains as the tools see them with the default store; nullptr
+    // keeps them as JSON files beside that store.
+    virtual std::unique_ptr<PreferenceDomains> openDefaultPreferenceDomains() { return nullptr; }
+    // What runs programs for the tools with the default store; nullptr runs nothing.
+    virtual std::unique_ptr<ChildProcesses> makeChildProcesses() { return nullptr; }
 };
 
 }  // namespace quorvane

@@ -1,6 +1,7 @@
 #include "cli/CommandLine.hpp"
 
 #include <algorithm>
+#include <optional>
 #include <ostream>
 #include <stdexcept>
 
@@ -8,28 +9,41 @@
 #include "app/ToolCatalog.hpp"
 #include "app/ToolRegistry.hpp"
 #include "base/Json.hpp"
+#include "cli/ClipboardCommand.hpp"
 #include "cli/CommandHost.hpp"
 #include "cli/DormantTool.hpp"
 #include "cli/EqCommand.hpp"
+#include "cli/KeysCommand.hpp"
 #include "cli/SettingsTextRenderer.hpp"
+#include "cli/SnippetsCommand.hpp"
 #include "input/InputServices.hpp"
+#include "platform/ChildProcesses.hpp"
 #include "platform/Platform.hpp"
+#include "platform/PreferenceDomains.hpp"
 #include "platform/Preferences.hpp"
+#include "portable/FilePreferenceDomains.hpp"
 #include "portable/FilePreferences.hpp"
 #include "portable/InProcessNotificationBus.hpp"
+#include "portable/MemoryPasteboard.hpp"
+#include "portable/NoChildProcesses.hpp"
 #include "portable/PortableAccessibility.hpp"
 #include "portable/PortableAudioHardware.hpp"
+#include "portable/PortableDateFormatting.hpp"
 #include "portable/PortableEventMonitors.hpp"
 #include "portable/PortableEventSystem.hpp"
+#include "portable/PortableHIDEventServices.hpp"
+#include "portable/PortableHashing.hpp"
 #include "portable/PortableHotKeySystem.hpp"
 #include "portable/PortableKeyboardLayout.hpp"
 #include "portable/PortableMenuBar.hpp"
 #include "portable/PortablePermissionProbe.hpp"
 #include "portable/PortableProcessFacts.hpp"
 #include "portable/PortableScreens.hpp"
+#include "portable/PortableThumbnails.hpp"
 #include "portable/PortableWindowList.hpp"
 #include "portable/PortableWorkspace.hpp"
 #include "portable/SteadyScheduler.hpp"
+#include "tools/keyboard/ClipboardStore.hpp"
 
 #ifndef QUORVANE_VERSION
 #define QUORVANE_VERSION "0.0.0"
@@ -78,6 +92,14 @@ struct Session {
     InputServices input{hotKeys, screens, scheduler};
     PortableKeyboardLayout keyboardLayout;
     PortableWindowList windowList;
+    std::unique_ptr<PreferenceDomains> preferenceDomains;
+    std::unique_ptr<ChildProcesses> childProcesses;
+    PortableHIDEventServices hidEventServices;
+    MemoryPasteboard pasteboard;
+    PortableThumbnails thumbnails;
+    PortableHashing hashing;
+    std::optional<Platform> platform;
+    PortableDateFormatting dateFormatting;
     std::unique_ptr<PermissionCenter> permissions;
     std::unique_ptr<ToolRegistry> registry;
 };
@@ -131,6 +153,13 @@ public:
             }
             return 0;
         }
+        if (command == "clipboard") {
+            std::string error;
+            if (!ClipboardCommand::run(operands, ClipboardStore::defaultFolder(), out_, error)) {
+                throw CommandError(error);
+            }
+            return 0;
+        }
         checkShape(command, operands);
         openSession(usePrefsFile, prefsPath);
 
@@ -144,6 +173,16 @@ public:
             controls(operands);
         } else if (command == "settings") {
             settings(availableTool(operands[0]));
+        } else if (command == "keys") {
+            std::string error;
+            if (!KeysCommand::run(operands, *session_.platform, out_, error)) {
+                throw CommandError(error);
+            }
+        } else if (command == "snippets") {
+            std::string error;
+            if (!SnippetsCommand::run(*session_.preferences, operands, out_, error)) {
+                throw CommandError(error);
+            }
         }
         if (const auto error = session_.preferences->lastError(); !error.empty()) {
             throw CommandError(error);
@@ -170,6 +209,13 @@ private:
             expect(operands.empty() ||
                        (operands.size() == 2 && (operands[0] == "add" || operands[0] == "remove")),
                    "[add ID | remove ID]");
+        } else if (command == "keys") {
+            expect(KeysCommand::wellFormed(operands), KeysCommand::shape());
+        } else if (command == "snippets") {
+            std::string error;
+            if (!SnippetsCommand::checkShape(operands, error)) {
+                throw CommandError(error);
+            }
         } else {
             throw CommandError("unknown command " + quoted(command) + " (try 'quorvane --help')");
         }
@@ -182,12 +228,31 @@ private:
         if (!session_.preferences) {
             throw CommandError(error);
         }
-        Platform platform{*session_.preferences, session_.scheduler,     session_.probe,
-                          session_.workspace,    session_.notifications, session_.events,
-                          session_.hotKeys,      session_.accessibility, session_.eventMonitors,
-                          session_.screens,      session_.menuBar,       session_.audioHardware,
-                          session_.processFacts, session_.input,         session_.keyboardLayout,
-                          session_.windowList};
+        openForeignDomains(usePrefsFile);
+        Platform platform{*session_.preferences,
+                          session_.scheduler,
+                          session_.probe,
+                          session_.workspace,
+                          session_.notifications,
+                          session_.events,
+                          session_.hotKeys,
+                          session_.accessibility,
+                          session_.eventMonitors,
+                          session_.screens,
+                          session_.menuBar,
+                          session_.audioHardware,
+                          session_.processFacts,
+                          session_.input,
+                          session_.keyboardLayout,
+                          session_.windowList,
+                          *session_.preferenceDomains,
+                          *session_.childProcesses,
+                          session_.hidEventServices,
+                          session_.pasteboard,
+                          session_.thumbnails,
+                          session_.hashing,
+                          session_.dateFormatting};
+        session_.platform.emplace(platform);
         session_.permissions = std::make_unique<PermissionCenter>(
             session_.probe, session_.scheduler, session_.workspace);
         std::vector<std::unique_ptr<Tool>> tools;
@@ -196,6 +261,24 @@ private:
         }
         session_.registry = std::make_unique<ToolRegistry>(
             std::move(tools), *session_.permissions, *session_.preferences, session_.notifications);
+    }
+
+    // A store of our own (--prefs, or files where the system has no user defaults) keeps the
+    // other programs' domains as files beside it and runs no programs: nothing on this system
+    // reads those files, so there is nothing to restart.
+    void openForeignDomains(bool usePrefsFile) {
+        if (!usePrefsFile) {
+            session_.preferenceDomains = host_.openDefaultPreferenceDomains();
+            session_.childProcesses = host_.makeChildProcesses();
+        }
+        if (!session_.preferenceDomains) {
+            const auto* file = dynamic_cast<const FilePreferences*>(session_.preferences.get());
+            session_.preferenceDomains = std::make_unique<FilePreferenceDomains>(
+                file != nullptr ? file->path().parent_path() : std::filesystem::path("."));
+        }
+        if (!session_.childProcesses) {
+            session_.childProcesses = std::make_unique<NoChildProcesses>();
+        }
     }
 
     Tool& knownTool(const std::string& id) {
@@ -272,8 +355,16 @@ private:
 
     void switchTool(Tool& tool, bool on) {
         session_.registry->setEnabled(on, tool, false);
-        host_.announce(on ? ToolRegistry::kTurnedItselfOn : ToolRegistry::kTurnedItselfOff,
-                       tool.id());
+        // A change to another program's preferences that failed is switched back, so the store
+        // says what is really in force.
+        const auto* dormant = dynamic_cast<const DormantTool*>(&tool);
+        const auto* flip = dormant != nullptr ? dormant->flipTool() : nullptr;
+        if (flip != nullptr && !flip->lastError().empty()) {
+            const std::string problem = flip->lastError();
+            session_.registry->setEnabled(!on, tool, false);
+            throw CommandError(problem);
+        }
+        host_.preferencesChanged();
         out_ << tool.name() << " is " << (on ? "on" : "off") << ".\n";
         if (on) {
             for (const auto permission : tool.requiredPermissions()) {
@@ -299,6 +390,7 @@ private:
                                ") has no control for the menu");
         }
         session_.registry->setInControls(add, tool);
+        host_.preferencesChanged();
     }
 
     void settings(Tool& tool) {
@@ -351,7 +443,8 @@ std::string CommandLine::usage() {
            "  controls add ID            add a tool's tile at the end of the menu's grid\n"
            "  controls remove ID         remove a tool's tile\n"
            "  settings ID                a tool's settings page, as text\n" +
-           EqCommand::usage() +
+           SnippetsCommand::usage() + EqCommand::usage() + KeysCommand::usage() +
+           ClipboardCommand::usage() +
            "\n"
            "Options:\n"
            "  --prefs FILE               use this preferences file instead of Quorvane's own\n"

@@ -10,7 +10,7 @@ class PortableCommandHost : public CommandHost {
 public:
     std::unique_ptr<Preferences> openDefaultPreferences(std::string& error) override;
     std::string defaultPreferencesDescription() const override;
-    void announce(const std::string&, const std::string&) override {}
+    void preferencesChanged() override {}
 };
 
 }  // namespace quorvane

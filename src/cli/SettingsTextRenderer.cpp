@@ -1,9 +1,11 @@
 #include "cli/SettingsTextRenderer.hpp"
 
 #include <cmath>
+#include <cstddef>
 #include <sstream>
 
 #include "base/Overloaded.hpp"
+#include "ui/SettingsRowDisplay.hpp"
 
 namespace quorvane {
 
@@ -39,16 +41,12 @@ std::string SettingsTextRenderer::renderRow(const SettingsRow& row) {
                        (t.help.empty() ? "" : "\n    " + t.help);
             },
             [](const R::Choice& c) {
-                const std::string current = c.get();
-                std::vector<std::string> titles;
-                std::string chosen = current;
-                for (const auto& option : c.options) {
-                    titles.push_back(option.title);
-                    if (option.value == current) {
-                        chosen = option.title;
-                    }
-                }
-                return c.label + ": " + chosen + "  (" + joined(titles, " | ") + ")";
+                const ChoiceDisplay display = choiceDisplay(c);
+                const std::vector<std::string> options(
+                    display.items.begin(),
+                    display.items.begin() + static_cast<std::ptrdiff_t>(display.optionCount));
+                return c.label + ": " + display.selectedTitle() + "  (" + joined(options, " | ") +
+                       ")";
             },
             [](const R::Slider& s) {
                 const double value = s.get();
@@ -66,8 +64,7 @@ std::string SettingsTextRenderer::renderRow(const SettingsRow& row) {
                        (value.empty() ? "(" + orNone(t.placeholder) + ")" : "\"" + value + "\"");
             },
             [](const R::Shortcut& s) {
-                const std::string text = s.displayText();
-                std::string line = s.label + ": " + (text.empty() ? "none" : text);
+                std::string line = s.label + ": " + shortcutText(s);
                 if (s.hasConflict && s.hasConflict()) {
                     line += "\n    ! " + s.conflictNotice;
                 }
@@ -91,6 +88,18 @@ std::string SettingsTextRenderer::renderRow(const SettingsRow& row) {
                     text += "\n    - " + item;
                 }
                 return text;
+            },
+            [](const R::EditableList& l) {
+                std::string text;
+                for (const auto& entry : l.entries()) {
+                    text += (entry.key.empty() ? "(" + orNone(l.keyPlaceholder) + ")" : entry.key) +
+                            " → " + (entry.value.empty() ? "(none)" : "\"" + entry.value + "\"") +
+                            "\n";
+                    if (!entry.warning.empty()) {
+                        text += "    ! " + entry.warning + "\n";
+                    }
+                }
+                return text + "[" + l.addTitle + "]";
             },
             [](const R::Note& n) { return n.text; },
             [](const R::Warning& w) { return "! " + w.text; },

@@ -49,7 +49,7 @@ std::optional<HotKey> HotKeyCenter::registerCombo(const KeyCombo& combo,
     }
     const std::uint32_t id = nextID_++;
     Entry entry{combo, 0, std::move(action)};
-    if (!isPaused_ && !registerWithSystem(id, entry)) {
+    if (pauseDepth_ == 0 && !registerWithSystem(id, entry)) {
         return std::nullopt;
     }
     entries_.emplace(id, std::move(entry));
@@ -79,10 +79,9 @@ void HotKeyCenter::unregister(std::uint32_t id) {
 }
 
 void HotKeyCenter::pause() {
-    if (isPaused_) {
+    if (pauseDepth_++ > 0) {
         return;
     }
-    isPaused_ = true;
     for (auto& [id, entry] : entries_) {
         if (entry.ref != 0) {
             system_.unregisterHotKey(std::exchange(entry.ref, 0));
@@ -91,14 +90,32 @@ void HotKeyCenter::pause() {
 }
 
 void HotKeyCenter::resume() {
-    if (!isPaused_) {
+    if (pauseDepth_ == 0 || --pauseDepth_ > 0) {
         return;
     }
-    isPaused_ = false;
     // A shortcut that another application took meanwhile stays registered here without the
     // system's part, silently, until its owner gives it back.
     for (auto& [id, entry] : entries_) {
         registerWithSystem(id, entry);
+    }
+}
+
+void HotKeyCenter::beginRecording(const void* recorder, std::function<void()> stopRecording) {
+    if (recorder_ != nullptr && recorder_ != recorder) {
+        // The earlier recorder calls endRecording from its stop, which clears it here.
+        auto stopEarlier = std::exchange(stopRecording_, nullptr);
+        if (stopEarlier) {
+            stopEarlier();
+        }
+    }
+    recorder_ = recorder;
+    stopRecording_ = std::move(stopRecording);
+}
+
+void HotKeyCenter::endRecording(const void* recorder) {
+    if (recorder_ == recorder) {
+        recorder_ = nullptr;
+        stopRecording_ = nullptr;
     }
 }
 

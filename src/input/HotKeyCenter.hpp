@@ -36,10 +36,17 @@ public:
     // only recorded and goes live on resume.
     [[nodiscard]] std::optional<HotKey> registerCombo(const KeyCombo& combo,
                                                       std::function<void()> action);
-    // Suspends every shortcut with the system, keeping the registrations.
+    // Suspends every shortcut with the system, keeping the registrations. Pauses nest: the
+    // shortcuts go live again only when every pause has been resumed, so one caller's resume
+    // cannot wake them while another still needs them quiet.
     void pause();
     void resume();
-    bool isPaused() const { return isPaused_; }
+    bool isPaused() const { return pauseDepth_ > 0; }
+    // One shortcut recorder at a time, so that every key press is recorded by exactly one of
+    // them: a recorder that starts ends the one recording before it through `stopRecording`.
+    void beginRecording(const void* recorder, std::function<void()> stopRecording);
+    // Harmless for a recorder that is not the current one.
+    void endRecording(const void* recorder);
     // Runs the action of the hot key with this id, if it is still registered.
     void dispatch(std::uint32_t id);
 
@@ -61,7 +68,9 @@ private:
     std::map<std::uint32_t, Entry> entries_;
     std::uint32_t nextID_ = 1;
     bool isInstalled_ = false;
-    bool isPaused_ = false;
+    int pauseDepth_ = 0;
+    const void* recorder_ = nullptr;
+    std::function<void()> stopRecording_;
 };
 
 }  // namespace quorvane

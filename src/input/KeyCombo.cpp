@@ -68,6 +68,15 @@ std::optional<std::uint64_t> unsignedMember(const Json& json, std::string_view k
     return static_cast<std::uint64_t>(*value);
 }
 
+// What may be a global shortcut: a function key alone, or any key with ⌃, ⌥ or ⌘ (⇧ alone
+// would take a capital letter away from every app).
+bool isShortcut(std::string_view label, std::uint64_t modifiers) {
+    const bool isFunctionKey = label.size() > 1 && label.front() == 'F';
+    const bool hasCommandModifier =
+        (modifiers & (modifierFlag::control | modifierFlag::option | modifierFlag::command)) != 0;
+    return isFunctionKey || hasCommandModifier;
+}
+
 }  // namespace
 
 std::optional<std::string_view> KeyCombo::keyName(std::uint32_t keyCode) {
@@ -94,10 +103,7 @@ std::optional<KeyCombo> KeyCombo::make(std::uint32_t keyCode, std::uint64_t flag
     if (label.empty()) {
         return std::nullopt;
     }
-    const bool isFunctionKey = label.size() > 1 && label.front() == 'F';
-    const bool hasCommandModifier =
-        (flags & (modifierFlag::control | modifierFlag::option | modifierFlag::command)) != 0;
-    if (!hasCommandModifier && !isFunctionKey) {
+    if (!isShortcut(label, flags)) {
         return std::nullopt;
     }
     return KeyCombo{keyCode, flags & modifierFlag::mask, std::move(label)};
@@ -135,7 +141,14 @@ std::optional<KeyCombo> KeyCombo::fromJson(const Json& json) {
     if (!keyCode || !flags || label == nullptr || label->string() == nullptr) {
         return std::nullopt;
     }
-    return KeyCombo{static_cast<std::uint32_t>(*keyCode), *flags, *label->string()};
+    // Other flag bits (a device bit, Caps Lock, Fn) would make a combo that is displayed as its
+    // bare key yet registered differently: keep the four modifiers, and refuse what is then no
+    // shortcut at all.
+    const std::uint64_t modifiers = *flags & modifierFlag::mask;
+    if (!isShortcut(*label->string(), modifiers)) {
+        return std::nullopt;
+    }
+    return KeyCombo{static_cast<std::uint32_t>(*keyCode), modifiers, *label->string()};
 }
 
 std::optional<KeyCombo> KeyCombo::load(const Preferences& preferences, std::string_view key,

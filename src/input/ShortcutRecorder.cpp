@@ -18,6 +18,7 @@ ShortcutRecorder::ShortcutRecorder(EventMonitors& monitors, HotKeyCenter& center
 ShortcutRecorder::~ShortcutRecorder() {
     if (isRecording_) {
         isRecording_ = false;
+        center_.endRecording(this);
         center_.resume();
     }
 }
@@ -26,8 +27,10 @@ void ShortcutRecorder::start() {
     if (isRecording_) {
         return;
     }
-    isRecording_ = true;
+    // Paused before the other recorder stops, so the shortcuts never go live in between.
     center_.pause();
+    center_.beginRecording(this, [this] { stop(); });
+    isRecording_ = true;
     monitor_ = monitors_.addLocal(kKeyDownMask,
                                   [this](const Event& event) { return handleKeyDown(event); });
     if (onChange_) {
@@ -40,6 +43,7 @@ void ShortcutRecorder::stop() {
         return;
     }
     isRecording_ = false;
+    center_.endRecording(this);
     center_.resume();
     monitor_.cancel();
     if (onChange_) {

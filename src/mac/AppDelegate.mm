@@ -16,19 +16,26 @@
 #include "mac/MacMenuBar.hpp"
 #include "mac/MacNotificationBus.hpp"
 #include "mac/MacPermissionProbe.hpp"
+#include "mac/MacPreferenceDomains.hpp"
 #include "mac/MacPreferences.hpp"
 #include "mac/MacProcessFacts.hpp"
 #include "mac/MacScheduler.hpp"
 #include "mac/MacWorkspace.hpp"
 #include "platform/Platform.hpp"
+#include "portable/SpawnedChildProcesses.hpp"
 #include "input/InputServices.hpp"
 #include "mac/MacAccessibility.hpp"
 #include "mac/MacEventMonitors.hpp"
 #include "mac/MacEventSystem.hpp"
+#include "mac/MacHIDEventServices.hpp"
 #include "mac/MacHotKeySystem.hpp"
 #include "mac/MacKeyboardLayout.hpp"
 #include "mac/MacScreens.hpp"
 #include "mac/MacWindowList.hpp"
+#include "mac/MacPasteboard.hpp"
+#include "mac/MacDateFormatting.hpp"
+#include "mac/MacHashing.hpp"
+#include "mac/MacThumbnails.hpp"
 
 namespace quorvane {
 
@@ -52,10 +59,20 @@ struct AppState {
     InputServices input{hotKeys, screens, scheduler};
     MacKeyboardLayout keyboardLayout;
     MacWindowList windowList;
-    Platform platform{preferences,   scheduler, permissionProbe, workspace,
-                      notifications, events,    hotKeys,         accessibility,
-                      eventMonitors, screens,   menuBar,         audioHardware,
-                      processFacts,  input,     keyboardLayout,  windowList};
+    MacPreferenceDomains preferenceDomains;
+    // posix_spawn is plain POSIX, so the portable runner is the Mac one too.
+    SpawnedChildProcesses childProcesses;
+    MacHIDEventServices hidEventServices;
+    MacPasteboard pasteboard;
+    MacThumbnails thumbnails;
+    MacHashing hashing;
+    MacDateFormatting dateFormatting;
+    Platform platform{preferences,       scheduler,      permissionProbe,  workspace,
+                      notifications,     events,         hotKeys,          accessibility,
+                      eventMonitors,     screens,        menuBar,          audioHardware,
+                      processFacts,      input,          keyboardLayout,   windowList,
+                      preferenceDomains, childProcesses, hidEventServices, pasteboard,
+                      thumbnails,        hashing,        dateFormatting};
     MacAppWindows windows;
     MacAppInstance instance;
     MacLoginItem loginItem;

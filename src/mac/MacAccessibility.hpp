@@ -11,6 +11,9 @@ public:
     Element application(int pid) override;
     std::int32_t copyAttribute(const Element& element, std::string_view attribute,
                                AccessibilityValue& value) override;
+    std::int32_t copyParameterizedAttribute(const Element& element, std::string_view attribute,
+                                            const AccessibilityValue& parameter,
+                                            AccessibilityValue& value) override;
     std::int32_t setAttribute(const Element& element, std::string_view attribute,
                               const AccessibilityValue& value) override;
     std::int32_t elementAtPosition(const Element& application, float x, float y,

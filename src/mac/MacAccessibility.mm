@@ -5,6 +5,7 @@
 #include "mac/MacAccessibility.hpp"
 
 #include <cassert>
+#include <optional>
 #include <string>
 #include <type_traits>
 
@@ -219,6 +220,24 @@ private:
     bool scheduled_ = false;
 };
 
+// Takes ownership of what a Copy call returned (+1, even alongside a failure status) and
+// converts it; a kind Quorvane never reads, such as a URL or a date, reads as no value.
+std::int32_t adoptCopiedValue(AXError status, CFTypeRef raw, AccessibilityValue& value) {
+    const auto owned = CFRef<CFTypeRef>::adopt(raw);
+    if (status != kAXErrorSuccess) {
+        return status;
+    }
+    if (!owned) {
+        return kAXErrorNoValue;
+    }
+    auto converted = fromCF(owned.get());
+    if (!converted) {
+        return kAXErrorNoValue;
+    }
+    value = std::move(*converted);
+    return kAXErrorSuccess;
+}
+
 }  // namespace
 
 Element MacAccessibility::systemWide() {
@@ -238,20 +257,23 @@ std::int32_t MacAccessibility::copyAttribute(const Element& element, std::string
     }
     CFTypeRef raw = nullptr;
     const AXError status = AXUIElementCopyAttributeValue(ref, name.get(), &raw);
-    const auto owned = CFRef<CFTypeRef>::adopt(raw);
-    if (status != kAXErrorSuccess) {
-        return status;
+    return adoptCopiedValue(status, raw, value);
+}
+
+std::int32_t MacAccessibility::copyParameterizedAttribute(const Element& element,
+                                                          std::string_view attribute,
+                                                          const AccessibilityValue& parameter,
+                                                          AccessibilityValue& value) {
+    const AXUIElementRef ref = refOf(element);
+    const CFRef<CFStringRef> name = makeCFString(attribute);
+    const CFRef<CFTypeRef> cfParameter = toCF(parameter);
+    if (!ref || !name || !cfParameter) {
+        return kAXErrorIllegalArgument;
     }
-    if (!owned) {
-        return kAXErrorNoValue;
-    }
-    auto converted = fromCF(owned.get());
-    if (!converted) {
-        // A kind Quorvane never reads, such as a URL or a date.
-        return kAXErrorNoValue;
-    }
-    value = std::move(*converted);
-    return kAXErrorSuccess;
+    CFTypeRef raw = nullptr;
+    const AXError status =
+        AXUIElementCopyParameterizedAttributeValue(ref, name.get(), cfParameter.get(), &raw);
+    return adoptCopiedValue(status, raw, value);
 }
 
 std::int32_t MacAccessibility::setAttribute(const Element& element, std::string_view attribute,

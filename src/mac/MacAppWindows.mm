@@ -7,6 +7,7 @@
 #include "mac/MacFirstRunWindow.hpp"
 #include "mac/MacFrameworks.h"
 #include "mac/MacSettingsWindow.hpp"
+#include "mac/MacViews.hpp"
 
 namespace quorvane {
 
@@ -47,11 +48,15 @@ void MacAppWindows::showFirstRun(FirstRunModel& model) {
 }
 
 void MacAppWindows::closeFirstRun() {
-    // The local reference keeps the controller alive while its window closes.
     QVFirstRunWindowController* controller = controllers_->firstRun;
     controllers_->firstRun = nil;
+    // This runs inside the window's own "Get Started" click: closing there would free the
+    // window, its button and the button's target while the click is still on the stack. The
+    // block keeps the controller alive and closes it on the next turn of the run loop.
     // unconfirmed: check on a Mac first (-[NSWindow close] is not in the fact sheet).
-    [controller.window close];
+    runSoon(^{
+      [controller.window close];
+    });
 }
 
 }  // namespace quorvane

@@ -8,7 +8,10 @@ namespace quorvane {
 
 // The Core Audio HAL, call for call. Listener blocks are queued on the main dispatch queue and
 // kept so the very same block is removed; a block already queued when its listener is removed
-// does nothing. Tap descriptions are kept until their tap is destroyed. Main thread only, except
+// does nothing. Tap descriptions are kept until their tap is destroyed. Starting and stopping
+// devices and destroying procedures, aggregate devices and taps run in order on a serial
+// queue of their own, since starting an aggregate device whose tap waits for audio can take
+// long and must never hold up the main thread. Main thread only, except
 // for the I/O procedures, which the HAL runs on its real-time thread.
 class MacAudioHardware final : public AudioHardware {
 public:
@@ -33,7 +36,7 @@ public:
     OSStatus createAggregateDevice(const PreferenceValue::Dictionary& description,
                                    AudioObjectID& outDeviceID) override;
     OSStatus destroyAggregateDevice(AudioObjectID device) override;
-    OSStatus createIOProcID(AudioObjectID device, IOProc proc, void* clientData,
+    OSStatus createIOProcID(AudioObjectID device, IOProc proc, std::shared_ptr<void> clientData,
                             IOProcID& outProcID) override;
     OSStatus destroyIOProcID(AudioObjectID device, IOProcID proc) override;
     OSStatus startDevice(AudioObjectID device, IOProcID proc) override;

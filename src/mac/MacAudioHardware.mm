@@ -56,6 +56,10 @@ struct MacAudioHardware::Registrations {
     std::map<ListenerID, Entry> listeners;
     ListenerID nextListener = 1;
     std::map<AudioObjectID, CATapDescription*> taps;
+    // Serial: a stop never overtakes the start before it, and a procedure is destroyed only
+    // after its device was stopped.
+    dispatch_queue_t control =
+        dispatch_queue_create("com.quorvane.app.audio-control", DISPATCH_QUEUE_SERIAL);
 };
 
 MacAudioHardware::MacAudioHardware() : registrations_(std::make_unique<Registrations>()) {}
@@ -178,9 +182,17 @@ OSStatus MacAudioHardware::createProcessTap(const ProcessTapDescription& descrip
 }
 
 OSStatus MacAudioHardware::destroyProcessTap(AudioObjectID tap) {
-    const OSStatus status = AudioHardwareDestroyProcessTap(tap);
+    // Kept alive until the tap is gone, then released on the main thread where it was made.
+    CATapDescription* description = registrations_->taps[tap];
     registrations_->taps.erase(tap);
-    return status;
+    dispatch_async(registrations_->control, ^{
+      AudioHardwareDestroyProcessTap(tap);
+      dispatch_async(dispatch_get_main_queue(), ^{
+        (void)description;
+      });
+    });
+    // Teardown ignores statuses; the request is what succeeded.
+    return noErr;
 }
 
 OSStatus MacAudioHardware::createAggregateDevice(const PreferenceValue::Dictionary& description,
@@ -199,11 +211,17 @@ OSStatus MacAudioHardware::createAggregateDevice(const PreferenceValue::Dictiona
 }
 
 OSStatus MacAudioHardware::destroyAggregateDevice(AudioObjectID device) {
-    return AudioHardwareDestroyAggregateDevice(device);
+    dispatch_async(registrations_->control, ^{
+      AudioHardwareDestroyAggregateDevice(device);
+    });
+    return noErr;
 }
 
-OSStatus MacAudioHardware::createIOProcID(AudioObjectID device, IOProc proc, void* clientData,
-                                          IOProcID& outProcID) {
+OSStatus MacAudioHardware::createIOProcID(AudioObjectID device, IOProc proc,
+                                          std::shared_ptr<void> clientData, IOProcID& outProcID) {
+    // The block holds its own reference, so the memory the procedure works on lives until the
+    // HAL has released the block after AudioDeviceDestroyIOProcID, wherever that runs.
+    const std::shared_ptr<void> context = std::move(clientData);
     // Runs on the HAL's real-time thread: it only wraps the HAL's buffer lists in views.
     AudioDeviceIOBlock block =
         ^(const AudioTimeStamp*, const AudioBufferList* inputData, const AudioTimeStamp*,
@@ -218,7 +236,7 @@ OSStatus MacAudioHardware::createIOProcID(AudioObjectID device, IOProc proc, voi
               output = {reinterpret_cast<AudioBufferView*>(outputData->mBuffers),
                         outputData->mNumberBuffers};
           }
-          proc(clientData, input, output);
+          proc(context.get(), input, output);
         };
     AudioDeviceIOProcID procID = nullptr;
     // No dispatch queue: the HAL calls the block directly on its I/O thread.
@@ -230,15 +248,27 @@ OSStatus MacAudioHardware::createIOProcID(AudioObjectID device, IOProc proc, voi
 }
 
 OSStatus MacAudioHardware::destroyIOProcID(AudioObjectID device, IOProcID proc) {
-    return AudioDeviceDestroyIOProcID(device, reinterpret_cast<AudioDeviceIOProcID>(proc));
+    dispatch_async(registrations_->control, ^{
+      AudioDeviceDestroyIOProcID(device, reinterpret_cast<AudioDeviceIOProcID>(proc));
+    });
+    return noErr;
 }
 
+// unconfirmed: check on a Mac first. With "tapautostart" set, AudioDeviceStart on an aggregate
+// device is believed to wait until its tap delivers audio; it runs on the control queue so the
+// main thread never waits with it. A failure there cannot be answered to the caller any more.
 OSStatus MacAudioHardware::startDevice(AudioObjectID device, IOProcID proc) {
-    return AudioDeviceStart(device, reinterpret_cast<AudioDeviceIOProcID>(proc));
+    dispatch_async(registrations_->control, ^{
+      AudioDeviceStart(device, reinterpret_cast<AudioDeviceIOProcID>(proc));
+    });
+    return noErr;
 }
 
 OSStatus MacAudioHardware::stopDevice(AudioObjectID device, IOProcID proc) {
-    return AudioDeviceStop(device, reinterpret_cast<AudioDeviceIOProcID>(proc));
+    dispatch_async(registrations_->control, ^{
+      AudioDeviceStop(device, reinterpret_cast<AudioDeviceIOProcID>(proc));
+    });
+    return noErr;
 }
 
 }  // namespace quorvane

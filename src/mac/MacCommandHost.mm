@@ -6,8 +6,11 @@
 
 #include <string>
 
+#include "app/ToolRegistry.hpp"
 #include "mac/MacNotificationBus.hpp"
+#include "mac/MacPreferenceDomains.hpp"
 #include "mac/MacPreferences.hpp"
+#include "portable/SpawnedChildProcesses.hpp"
 
 namespace quorvane {
 
@@ -24,9 +27,17 @@ public:
         return std::string("the user defaults of ") + MacPreferences::kApplicationID;
     }
 
-    void announce(const std::string& notificationName, const std::string& toolID) override {
+    void preferencesChanged() override {
         MacNotificationBus(MacNotificationBus::Mode::fromCommandLine)
-            .post(notificationName, toolID);
+            .post(ToolRegistry::kPreferencesChanged, std::nullopt);
+    }
+
+    std::unique_ptr<PreferenceDomains> openDefaultPreferenceDomains() override {
+        return std::make_unique<MacPreferenceDomains>();
+    }
+
+    std::unique_ptr<ChildProcesses> makeChildProcesses() override {
+        return std::make_unique<SpawnedChildProcesses>();
     }
 };
 

@@ -13,7 +13,7 @@ public:
                                         bool keyDown) override;
     std::unique_ptr<Event> makeMouseEvent(SourceState source, EventType type, Point location,
                                           MouseButton button) override;
-    std::unique_ptr<Event> makeScrollEvent(SourceState source, ScrollUnit unit,
+    std::unique_ptr<Event> makeScrollEvent(std::optional<SourceState> source, ScrollUnit unit,
                                            std::int32_t vertical, std::int32_t horizontal) override;
     void post(Location location, Event& event) override;
     double secondsSinceLastEvent(SourceState source, EventType type) override;

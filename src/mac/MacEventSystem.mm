@@ -120,10 +120,11 @@ std::unique_ptr<Event> MacEventSystem::makeMouseEvent(SourceState source, EventT
     return wrap(event, std::move(eventSource));
 }
 
-std::unique_ptr<Event> MacEventSystem::makeScrollEvent(SourceState source, ScrollUnit unit,
-                                                       std::int32_t vertical,
+std::unique_ptr<Event> MacEventSystem::makeScrollEvent(std::optional<SourceState> source,
+                                                       ScrollUnit unit, std::int32_t vertical,
                                                        std::int32_t horizontal) {
-    auto eventSource = makeSource(source);
+    // Without a source state the event has no source at all (NULL), as the reference allows.
+    auto eventSource = source ? makeSource(*source) : CFRef<CGEventSourceRef>();
     CGEventRef event = CGEventCreateScrollWheelEvent2(
         eventSource.get(), static_cast<CGScrollEventUnit>(unit), 2, vertical, horizontal, 0);
     return wrap(event, std::move(eventSource));

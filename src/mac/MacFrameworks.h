@@ -6,15 +6,24 @@
 #error "MacFrameworks.h is for Objective-C++ (.mm) files only"
 #endif
 
+// AppKit first, as its umbrella brings in what the rest build on.
+// clang-format off
 #import <AppKit/AppKit.h>
 #include <ApplicationServices/ApplicationServices.h>
 #include <Carbon/Carbon.h>
 #include <CoreAudio/CoreAudio.h>
 #include <CoreFoundation/CoreFoundation.h>
 #include <CoreGraphics/CoreGraphics.h>
+#include <IOKit/IOKitLib.h>
+// AppKit only names CALayer; its properties (views' corner radius and colours) are QuartzCore's.
+#import <QuartzCore/QuartzCore.h>
 // The umbrella leaves out the process-tap headers, which are Objective-C only.
 #import <CoreAudio/AudioHardwareTapping.h>
 #import <CoreAudio/CATapDescription.h>
+#include <CommonCrypto/CommonDigest.h>
+#include <ImageIO/ImageIO.h>
+#include <libproc.h>
+
 // unconfirmed: check on a Mac first (the umbrella name; only SMAppService.h itself was read).
 #import <ServiceManagement/ServiceManagement.h>
-#include <libproc.h>
+// clang-format on

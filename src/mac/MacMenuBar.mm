@@ -14,6 +14,7 @@
 #include "mac/MacActionTarget.hpp"
 #include "mac/MacFrameworks.h"
 #include "mac/MacMenuPanelView.hpp"
+#include "mac/MacPanelPageView.hpp"
 #include "mac/MacSettingsPageView.hpp"
 #include "mac/MacViews.hpp"
 #include "ui/PanelContent.hpp"
@@ -136,6 +137,9 @@ private:
 NSView* makeContentView(const PanelContent& content) {
     return std::visit(Overloaded{
                           [](const PanelContent::Page& page) -> NSView* {
+                              if (page.layoutKey || page.pointerInside) {
+                                  return [[QVPanelPageView alloc] initWithPage:page];
+                              }
                               QVSettingsPageView* view = [[QVSettingsPageView alloc]
                                   initWithPage:page.make ? page.make() : SettingsPage {}
                                         source:page.source

@@ -7,14 +7,14 @@
 
 namespace quorvane {
 
-// Quorvane's own notifications over the Foundation notification centres. The command-line
-// tool runs in a separate process, so it reaches the running app through the distributed
-// centre, which the app observes alongside its in-process centre.
+// Quorvane's own notifications over the Foundation notification centres. The app observes
+// only its in-process centre; the command-line tool runs in a separate process and posts to the
+// distributed centre, where the app listens for one name without payload (through the
+// workspace's distributed observer) and reads its preferences again.
 class MacNotificationBus final : public NotificationBus {
 public:
     enum class Mode {
-        // Inside Quorvane.app: observes the in-process and the distributed centre, posts in
-        // process.
+        // Inside Quorvane.app: observes and posts in process.
         inApplication,
         // In the command-line tool: posts to other processes, observes in process only.
         fromCommandLine,

@@ -59,22 +59,11 @@ Subscription MacNotificationBus::observe(const std::string& name, Handler handle
                                                               object:nil
                                                                queue:[NSOperationQueue mainQueue]
                                                           usingBlock:deliver];
-        id<NSObject> distributedToken = nil;
-        if (mode_ == Mode::inApplication) {
-            // unconfirmed: check on a Mac first (NSDistributedNotificationCenter is not in the
-            // fact sheet; the block-based observer is inherited from NSNotificationCenter).
-            distributedToken = [[NSDistributedNotificationCenter defaultCenter]
-                addObserverForName:notificationName
-                            object:nil
-                             queue:[NSOperationQueue mainQueue]
-                        usingBlock:deliver];
-        }
-        return Subscription([observer, localToken, distributedToken] {
+        // The in-process centre only: any local process can post to the distributed one, and
+        // must not be able to switch a tool by name.
+        return Subscription([observer, localToken] {
             observer->cancelled = true;
             [[NSNotificationCenter defaultCenter] removeObserver:localToken];
-            if (distributedToken) {
-                [[NSDistributedNotificationCenter defaultCenter] removeObserver:distributedToken];
-            }
         });
     }
 }

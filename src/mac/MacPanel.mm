@@ -5,7 +5,9 @@
 #include "mac/MacPanel.hpp"
 
 #include "mac/MacStrings.hpp"
+#include "mac/MacViews.hpp"
 #include "ui/LevelBar.hpp"
+#include "ui/NoticeLines.hpp"
 
 // unconfirmed: check on a Mac first. Of the AppKit below only the panel's initializer, its style
 // mask, backing, level and collection behaviour values are in the fact sheet. NSAnimationContext,
@@ -63,11 +65,22 @@ NSView* makeCard(const HUDCard& card) {
     [image.heightAnchor constraintEqualToConstant:HUDCard::kSymbolFrameHeight].active = YES;
     [stack addArrangedSubview:image];
 
-    NSString* text = makeNSString(card.title);
-    NSTextField* title = [NSTextField labelWithString:text ? text : @""];
-    title.font = [NSFont preferredFontForTextStyle:NSFontTextStyleHeadline options:@{}];
-    title.alignment = NSTextAlignmentCenter;
-    [stack addArrangedSubview:title];
+    // Headline and detail each wrap within the card rather than being clipped to one line.
+    const CGFloat textWidth = HUDCard::kWidth - 2 * HUDCard::kPadding;
+    const NoticeLines lines = noticeLines(card.title);
+    NSTextField* headline = [NSTextField wrappingLabelWithString:text(lines.headline)];
+    headline.font = [NSFont preferredFontForTextStyle:NSFontTextStyleHeadline options:@{}];
+    headline.alignment = NSTextAlignmentCenter;
+    headline.preferredMaxLayoutWidth = textWidth;
+    [stack addArrangedSubview:headline];
+    NSTextField* detail = [NSTextField wrappingLabelWithString:text(lines.detail)];
+    detail.font = [NSFont preferredFontForTextStyle:NSFontTextStyleSubheadline options:@{}];
+    detail.textColor = [NSColor secondaryLabelColor];
+    detail.alignment = NSTextAlignmentCenter;
+    detail.preferredMaxLayoutWidth = textWidth;
+    // A stack view leaves hidden views out of its layout.
+    detail.hidden = lines.detail.empty();
+    [stack addArrangedSubview:detail];
 
     if (card.level) {
         [stack addArrangedSubview:makeLevelBar(LevelBar{*card.level})];
@@ -79,8 +92,7 @@ NSView* makeCard(const HUDCard& card) {
     background.state = NSVisualEffectStateActive;
     background.wantsLayer = YES;
     background.layer.cornerRadius = HUDCard::kCornerRadius;
-    // Continuous corners (CALayer's cornerCurve) need QuartzCore's header; left out until that
-    // can be checked on a Mac.
+    background.layer.cornerCurve = kCACornerCurveContinuous;
     background.layer.masksToBounds = YES;
     background.translatesAutoresizingMaskIntoConstraints = NO;
     stack.translatesAutoresizingMaskIntoConstraints = NO;
@@ -119,6 +131,9 @@ MacPanel::MacPanel() {
     panel_.hasShadow = NO;
     panel_.ignoresMouseEvents = YES;
     panel_.releasedWhenClosed = NO;
+    // A panel hides when its app deactivates by default; Quorvane is an accessory app that is
+    // almost never active, so the card would vanish at once or never show.
+    panel_.hidesOnDeactivate = NO;
     // 337: on every Space, stationary, out of window cycling, over full-screen apps.
     panel_.collectionBehavior =
         NSWindowCollectionBehaviorCanJoinAllSpaces | NSWindowCollectionBehaviorStationary |

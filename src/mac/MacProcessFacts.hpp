@@ -12,6 +12,8 @@ public:
     std::optional<std::string> applicationPath(const std::string& bundleID) override;
     std::string displayName(const std::string& path) override;
     std::optional<std::string> bundleIdentifier(const std::string& bundlePath) override;
+    std::optional<std::string> infoString(const std::string& bundleURL,
+                                          const std::string& key) override;
     int compareNames(const std::string& a, const std::string& b) override;
 };
 

@@ -74,6 +74,27 @@ std::optional<std::string> MacProcessFacts::bundleIdentifier(const std::string& 
     }
 }
 
+std::optional<std::string> MacProcessFacts::infoString(const std::string& bundleURL,
+                                                       const std::string& key) {
+    @autoreleasepool {
+        NSString* text = makeNSString(bundleURL);
+        NSString* name = makeNSString(key);
+        if (!text || !name) {
+            return std::nullopt;
+        }
+        // unconfirmed: check on a Mac first (+[NSURL URLWithString:], +[NSBundle bundleWithURL:]
+        // and -objectForInfoDictionaryKey: are from Apple's reference, not the fact sheet; each
+        // may give nil, and the value may be of any property-list class).
+        NSURL* url = [NSURL URLWithString:text];
+        NSBundle* bundle = url ? [NSBundle bundleWithURL:url] : nil;
+        id value = [bundle objectForInfoDictionaryKey:name];
+        if (![value isKindOfClass:[NSString class]]) {
+            return std::nullopt;
+        }
+        return utf8String(static_cast<NSString*>(value));
+    }
+}
+
 int MacProcessFacts::compareNames(const std::string& a, const std::string& b) {
     @autoreleasepool {
         NSString* first = makeNSString(a);

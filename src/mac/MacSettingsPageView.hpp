@@ -15,4 +15,6 @@ class Observable;
                       source:(const quorvane::Observable*)source
                        width:(CGFloat)width;
 - (void)refresh;
+// Stops any shortcut recorder on the page that is listening.
+- (void)stopRecording;
 @end

@@ -15,9 +15,11 @@
 #include "base/Observable.hpp"
 #include "base/Overloaded.hpp"
 #include "base/Subscription.hpp"
+#include "input/ShortcutRecorder.hpp"
 #include "mac/MacActionTarget.hpp"
 #include "mac/MacStrings.hpp"
 #include "mac/MacViews.hpp"
+#include "ui/SettingsRowDisplay.hpp"
 
 namespace {
 
@@ -132,6 +134,7 @@ NSControlStateValue stateValue(bool on) {
             [&](const Row::Shortcut& shortcut) { return [self shortcutRow:&shortcut]; },
             [&](const Row::AppList& list) { return [self appListRow:&list]; },
             [&](const Row::ItemList& list) { return [self itemListRow:&list]; },
+            [&](const Row::EditableList& list) { return [self editableListRow:&list]; },
             [&](const Row::Note& note) -> NSView* {
                 return quorvane::makeSecondaryLabel(note.text, _width);
             },
@@ -174,27 +177,24 @@ NSControlStateValue stateValue(bool on) {
 
 - (NSView*)choiceRow:(const Row::Choice*)choice {
     NSPopUpButton* popup = [[NSPopUpButton alloc] initWithFrame:NSZeroRect pullsDown:NO];
-    for (const auto& option : choice->options) {
-        [popup addItemWithTitle:quorvane::text(option.title)];
-    }
-    [QVActionTarget bind:popup
-                    keep:_targets
-                 handler:^(id) {
-                   const NSInteger index = popup.indexOfSelectedItem;
-                   if (choice->set && index >= 0 &&
-                       static_cast<std::size_t>(index) < choice->options.size()) {
-                       choice->set(choice->options[static_cast<std::size_t>(index)].value);
-                   }
-                 }];
-    [_updates addObject:^{
-      const std::string current = choice->get ? choice->get() : std::string();
-      NSInteger selected = -1;
-      for (std::size_t i = 0; i < choice->options.size(); ++i) {
-          if (choice->options[i].value == current) {
-              selected = static_cast<NSInteger>(i);
+    [QVActionTarget
+           bind:popup
+           keep:_targets
+        handler:^(id) {
+          const quorvane::ChoiceDisplay display = quorvane::choiceDisplay(*choice);
+          const NSInteger index = popup.indexOfSelectedItem;
+          if (choice->set && index >= 0 && static_cast<std::size_t>(index) < display.optionCount) {
+              choice->set(choice->options[static_cast<std::size_t>(index)].value);
           }
+        }];
+    [_updates addObject:^{
+      // The items change when the value matches no option (a custom equalizer) or does again.
+      const quorvane::ChoiceDisplay display = quorvane::choiceDisplay(*choice);
+      [popup removeAllItems];
+      for (const std::string& item : display.items) {
+          [popup addItemWithTitle:quorvane::text(item)];
       }
-      [popup selectItemAtIndex:selected];
+      [popup selectItemAtIndex:static_cast<NSInteger>(display.selected)];
     }];
     return [self labelled:choice->label control:popup];
 }
@@ -206,12 +206,8 @@ NSControlStateValue stateValue(bool on) {
                                            target:nil
                                            action:nil];
     control.continuous = YES;
-    if (slider->step > 0) {
-        control.numberOfTickMarks = static_cast<NSInteger>(std::lround(
-                                        (slider->maximum - slider->minimum) / slider->step)) +
-                                    1;
-        control.allowsTickMarkValuesOnly = YES;
-    }
+    control.numberOfTickMarks = quorvane::tickMarkCount(*slider);
+    control.allowsTickMarkValuesOnly = control.numberOfTickMarks > 0;
     [control.widthAnchor constraintEqualToConstant:200].active = YES;
     NSTextField* value = quorvane::makeLabel("");
     [QVActionTarget bind:control
@@ -285,22 +281,39 @@ NSControlStateValue stateValue(bool on) {
 }
 
 - (NSView*)shortcutRow:(const Row::Shortcut*)shortcut {
-    NSTextField* keys = quorvane::makeLabel("");
-    keys.font = [NSFont systemFontOfSize:[NSFont systemFontSize] weight:NSFontWeightMedium];
-    NSButton* record = [NSButton buttonWithTitle:@"Record Shortcut…" target:nil action:nil];
+    // The recorder button shows the shortcut itself, so the combination appears once.
+    NSButton* record =
+        [NSButton buttonWithTitle:quorvane::text(quorvane::ShortcutRecorder::kEmptyTitle)
+                           target:nil
+                           action:nil];
+    [record.widthAnchor constraintEqualToConstant:quorvane::ShortcutRecorder::kButtonWidth].active =
+        YES;
     [QVActionTarget bind:record
                     keep:_targets
                  handler:^(id) {
                    recordShortcut(*shortcut);
                  }];
+    NSButton* clear = [NSButton
+        buttonWithImage:quorvane::makeSymbolImage(quorvane::ShortcutRecorder::kClearSymbol,
+                                                  quorvane::ShortcutRecorder::kClearLabel)
+                 target:nil
+                 action:nil];
+    clear.bordered = NO;
+    clear.toolTip = quorvane::text(quorvane::ShortcutRecorder::kClearLabel);
+    [QVActionTarget bind:clear
+                    keep:_targets
+                 handler:^(id) {
+                   if (shortcut->clear) {
+                       shortcut->clear();
+                   }
+                 }];
     NSTextField* conflict = quorvane::makeSecondaryLabel(shortcut->conflictNotice, _width);
     conflict.textColor = [NSColor systemRedColor];
     [_updates addObject:^{
-      const std::string shown = shortcut->displayText ? shortcut->displayText() : std::string();
-      keys.stringValue = shown.empty() ? @"None" : quorvane::text(shown);
       if (shortcut->buttonTitle) {
           record.title = quorvane::text(shortcut->buttonTitle());
       }
+      clear.hidden = !quorvane::showsClearButton(*shortcut);
       conflict.hidden = !(shortcut->hasConflict && shortcut->hasConflict());
     }];
     NSStackView* line = quorvane::makeRow(8);
@@ -308,12 +321,16 @@ NSControlStateValue stateValue(bool on) {
         [line addArrangedSubview:quorvane::makeSymbol(shortcut->symbol, 15)];
     }
     [line addArrangedSubview:quorvane::makeLabel(shortcut->label)];
-    [line addArrangedSubview:keys];
     [line addArrangedSubview:record];
+    [line addArrangedSubview:clear];
     NSStackView* column = quorvane::makeColumn(2);
     [column addArrangedSubview:line];
     [column addArrangedSubview:conflict];
     return column;
+}
+
+- (void)stopRecording {
+    quorvane::stopRecording(_state->page);
 }
 
 // A list of one line per entry, read again on every refresh, each entry with a remove button
@@ -348,7 +365,9 @@ NSControlStateValue stateValue(bool on) {
               [QVActionTarget bind:button
                               keep:lineTargets
                            handler:^(id) {
-                             removeItem();
+                             // Removing the entry rebuilds these lines, which would free
+                             // this button and its target while this action still runs.
+                             quorvane::runSoon(removeItem);
                            }];
               [line addArrangedSubview:button];
           }
@@ -419,6 +438,130 @@ NSControlStateValue stateValue(bool on) {
                       return entries;
                     }
                       extra:nil];
+}
+
+// One line per entry, rebuilt only when the number of entries changes: rebuilding under the
+// user's typing would take the field they are typing in away from them. Otherwise each refresh
+// puts the values into the fields that are not being edited and updates the warnings.
+- (NSView*)editableListRow:(const Row::EditableList*)list {
+    NSStackView* column = quorvane::makeColumn(6);
+    NSStackView* lines = quorvane::makeColumn(6);
+    [column addArrangedSubview:lines];
+    NSButton* add = [NSButton buttonWithTitle:quorvane::text(list->addTitle) target:nil action:nil];
+    [QVActionTarget bind:add
+                    keep:_targets
+                 handler:^(id) {
+                   if (list->add) {
+                       list->add();
+                   }
+                 }];
+    [column addArrangedSubview:add];
+    NSMutableArray* lineTargets = [NSMutableArray array];
+    NSMutableArray<NSTextField*>* keys = [NSMutableArray array];
+    NSMutableArray<NSTextField*>* values = [NSMutableArray array];
+    NSMutableArray<NSView*>* warnings = [NSMutableArray array];
+    NSMutableArray<NSTextField*>* warningTexts = [NSMutableArray array];
+    const CGFloat width = _width;
+    // Commits a field's text when the user presses Return or leaves the field.
+    NSTextField* (^field)(const std::string&, CGFloat, void (^)(NSString*)) = ^NSTextField*(
+        const std::string& placeholder, CGFloat minimumWidth, void (^commit)(NSString*)) {
+        NSTextField* control = [NSTextField textFieldWithString:@""];
+        control.placeholderString = quorvane::text(placeholder);
+        control.cell.sendsActionOnEndEditing = YES;
+        [control.widthAnchor constraintGreaterThanOrEqualToConstant:minimumWidth].active = YES;
+        [QVActionTarget bind:control
+                        keep:lineTargets
+                     handler:^(id) {
+                       commit(control.stringValue);
+                     }];
+        return control;
+    };
+    [_updates addObject:^{
+      const auto entries = list->entries ? list->entries() : std::vector<Row::EditableEntry>{};
+      if (entries.size() != keys.count) {
+          quorvane::removeArrangedViews(lines);
+          [lineTargets removeAllObjects];
+          [keys removeAllObjects];
+          [values removeAllObjects];
+          [warnings removeAllObjects];
+          [warningTexts removeAllObjects];
+          for (std::size_t index = 0; index < entries.size(); ++index) {
+              NSTextField* key = field(list->keyPlaceholder, 90, ^(NSString* text) {
+                if (list->setKey) {
+                    list->setKey(index, quorvane::utf8String(text));
+                }
+              });
+              NSTextField* value = field(list->valuePlaceholder, 220, ^(NSString* text) {
+                if (list->setValue) {
+                    list->setValue(index, quorvane::utf8String(text));
+                }
+              });
+              NSStackView* line = quorvane::makeRow(6);
+              [line addArrangedSubview:key];
+              [line addArrangedSubview:value];
+              if (list->move) {
+                  NSButton* up = [NSButton buttonWithTitle:@"↑" target:nil action:nil];
+                  up.enabled = index > 0;
+                  [QVActionTarget bind:up
+                                  keep:lineTargets
+                               handler:^(id) {
+                                 list->move(index, index - 1);
+                               }];
+                  NSButton* down = [NSButton buttonWithTitle:@"↓" target:nil action:nil];
+                  down.enabled = index + 1 < entries.size();
+                  [QVActionTarget bind:down
+                                  keep:lineTargets
+                               handler:^(id) {
+                                 list->move(index, index + 1);
+                               }];
+                  [line addArrangedSubview:up];
+                  [line addArrangedSubview:down];
+              }
+              NSButton* remove = [NSButton
+                  buttonWithImage:[NSImage
+                                      imageWithSystemSymbolName:quorvane::text(list->removeSymbol)
+                                       accessibilityDescription:@"Remove"]
+                           target:nil
+                           action:nil];
+              remove.bordered = NO;
+              [QVActionTarget bind:remove
+                              keep:lineTargets
+                           handler:^(id) {
+                             if (list->remove) {
+                                 list->remove(index);
+                             }
+                           }];
+              [line addArrangedSubview:remove];
+              NSImageView* icon = quorvane::makeSymbol("exclamationmark.triangle.fill", 13);
+              icon.contentTintColor = [NSColor systemOrangeColor];
+              NSTextField* warningText = quorvane::makeWrappingLabel("", width - 24);
+              NSStackView* warning = quorvane::makeRow(6);
+              warning.alignment = NSLayoutAttributeTop;
+              [warning addArrangedSubview:icon];
+              [warning addArrangedSubview:warningText];
+              NSStackView* entry = quorvane::makeColumn(2);
+              [entry addArrangedSubview:line];
+              [entry addArrangedSubview:warning];
+              [lines addArrangedSubview:entry];
+              [keys addObject:key];
+              [values addObject:value];
+              [warnings addObject:warning];
+              [warningTexts addObject:warningText];
+          }
+      }
+      for (std::size_t index = 0; index < entries.size(); ++index) {
+          const auto i = static_cast<NSUInteger>(index);
+          if (keys[i].currentEditor == nil) {
+              keys[i].stringValue = quorvane::text(entries[index].key);
+          }
+          if (values[i].currentEditor == nil) {
+              values[i].stringValue = quorvane::text(entries[index].value);
+          }
+          warningTexts[i].stringValue = quorvane::text(entries[index].warning);
+          warnings[i].hidden = entries[index].warning.empty();
+      }
+    }];
+    return column;
 }
 
 - (NSView*)warningRow:(const Row::Warning*)warning {

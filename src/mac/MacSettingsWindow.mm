@@ -67,6 +67,8 @@ NSControlStateValue stateValue(bool on) {
     if (!self) {
         return nil;
     }
+    // Told when the window closes, to stop a recorder that is still listening.
+    window.delegate = self;
     _model = &model;
     _targets = [NSMutableArray array];
     _headerTargets = [NSMutableArray array];
@@ -180,6 +182,7 @@ NSControlStateValue stateValue(bool on) {
                                   _cardTargets, kPageWidth);
     if (_model->pageGeneration() != _pageGeneration) {
         _pageGeneration = _model->pageGeneration();
+        [self stopRecording];
         quorvane::removeArrangedViews(_pageHolder);
         [_pageHolder
             addArrangedSubview:[[QVSettingsPageView alloc] initWithPage:_model->page()
@@ -279,6 +282,21 @@ NSControlStateValue stateValue(bool on) {
     if (!_reloadingSidebar && row >= 0) {
         _model->selectRow(static_cast<std::size_t>(row));
     }
+}
+
+// A recorder that still listens keeps every global shortcut paused, so none outlives its page
+// or the window.
+- (void)stopRecording {
+    for (NSView* view in _pageHolder.arrangedSubviews) {
+        if ([view isKindOfClass:[QVSettingsPageView class]]) {
+            [static_cast<QVSettingsPageView*>(view) stopRecording];
+        }
+    }
+}
+
+- (void)windowWillClose:(NSNotification*)notification {
+    (void)notification;
+    [self stopRecording];
 }
 
 @end

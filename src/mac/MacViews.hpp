@@ -20,6 +20,8 @@ NSTextField* makeSecondaryLabel(std::string_view utf8, CGFloat width);
 NSTextField* makeStyledLabel(std::string_view utf8, CGFloat width);
 // Empty when the symbol does not exist on this system.
 NSImageView* makeSymbol(std::string_view systemImage, CGFloat pointSize);
+// A symbol image described for VoiceOver; nil when the symbol does not exist on this system.
+NSImage* makeSymbolImage(std::string_view systemImage, std::string_view description);
 
 NSStackView* makeColumn(CGFloat spacing);
 NSStackView* makeRow(CGFloat spacing);

@@ -67,6 +67,11 @@ NSTextField* makeStyledLabel(std::string_view utf8, CGFloat width) {
     return label;
 }
 
+NSImage* makeSymbolImage(std::string_view systemImage, std::string_view description) {
+    return [NSImage imageWithSystemSymbolName:text(systemImage)
+                     accessibilityDescription:text(description)];
+}
+
 NSImageView* makeSymbol(std::string_view systemImage, CGFloat pointSize) {
     NSImage* image = [NSImage imageWithSystemSymbolName:text(systemImage)
                                accessibilityDescription:nil];

@@ -89,6 +89,38 @@ NSNotificationName notificationName(WorkspaceNotification notification) {
 
 @end
 
+// The distributed centre's suspension choice exists only on the selector-based observer, so
+// this object relays to the handler.
+@interface QuorvaneDistributedRelay : NSObject
+- (instancetype)initWithHandler:
+    (std::shared_ptr<quorvane::CancellableHandler<std::function<void()>>>)handler;
+- (void)deliver:(NSNotification*)notification;
+@end
+
+@implementation QuorvaneDistributedRelay {
+    std::shared_ptr<quorvane::CancellableHandler<std::function<void()>>> _handler;
+}
+
+- (instancetype)initWithHandler:
+    (std::shared_ptr<quorvane::CancellableHandler<std::function<void()>>>)handler {
+    if ((self = [super init])) {
+        _handler = std::move(handler);
+    }
+    return self;
+}
+
+- (void)deliver:(NSNotification*)notification {
+    (void)notification;
+    assert([NSThread isMainThread]);
+    // The handler may end this subscription; the local copy keeps it alive until it returns.
+    const auto running = _handler;
+    if (!running->cancelled) {
+        running->handler();
+    }
+}
+
+@end
+
 namespace quorvane {
 
 bool MacWorkspace::openURL(const std::string& url) {
@@ -191,22 +223,24 @@ Subscription MacWorkspace::observeDistributed(const std::string& name,
         }
         auto observer =
             std::make_shared<CancellableHandler<std::function<void()>>>(std::move(handler));
-        // unconfirmed: check on a Mac first (NSDistributedNotificationCenter is not in the fact
-        // sheet; the block-based observer is inherited from NSNotificationCenter).
-        id<NSObject> token = [[NSDistributedNotificationCenter defaultCenter]
-            addObserverForName:notification
+        QuorvaneDistributedRelay* relay =
+            [[QuorvaneDistributedRelay alloc] initWithHandler:observer];
+        // An accessory app is almost never active, and an inactive app's distributed
+        // notifications are held back and coalesced by default; the ones observed here (a
+        // screen unlocked) matter when they happen, so they are delivered at once.
+        // unconfirmed: check on a Mac first (NSDistributedNotificationCenter's
+        // -addObserver:selector:name:object:suspensionBehavior: is not in the fact sheet; it was
+        // written from Apple's reference). Posts arrive on the main thread's run loop.
+        [[NSDistributedNotificationCenter defaultCenter]
+                   addObserver:relay
+                      selector:@selector(deliver:)
+                          name:notification
                         object:nil
-                         queue:[NSOperationQueue mainQueue]
-                    usingBlock:^(NSNotification*) {
-                      assert([NSThread isMainThread]);
-                      const auto running = observer;
-                      if (!running->cancelled) {
-                          running->handler();
-                      }
-                    }];
-        return Subscription([observer, token] {
+            suspensionBehavior:NSNotificationSuspensionBehaviorDeliverImmediately];
+        // The block keeps the relay alive until it is removed.
+        return Subscription([observer, relay] {
             observer->cancelled = true;
-            [[NSDistributedNotificationCenter defaultCenter] removeObserver:token];
+            [[NSDistributedNotificationCenter defaultCenter] removeObserver:relay];
         });
     }
 }

@@ -37,6 +37,13 @@ public:
                                        AccessibilityValue& value) = 0;
     virtual std::int32_t setAttribute(const Element& element, std::string_view attribute,
                                       const AccessibilityValue& value) = 0;
+    // AXUIElementCopyParameterizedAttributeValue, such as the bounds of a text range.
+    virtual std::int32_t copyParameterizedAttribute(const Element& /*element*/,
+                                                    std::string_view /*attribute*/,
+                                                    const AccessibilityValue& /*parameter*/,
+                                                    AccessibilityValue& /*value*/) {
+        return kNoValue;
+    }
     // Top-left global coordinates; `application` may be the system-wide element.
     virtual std::int32_t elementAtPosition(const Element& application, float x, float y,
                                            Element& element) = 0;

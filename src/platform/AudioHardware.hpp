@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <span>
 #include <string>
@@ -67,13 +68,17 @@ public:
     virtual OSStatus destroyAggregateDevice(AudioObjectID device) = 0;
 
     // AudioDeviceCreateIOProcIDWithBlock with no dispatch queue, so the procedure runs on the
-    // HAL's real-time thread; the block calls `proc` with `clientData`, which must outlive the
-    // procedure. AudioDeviceDestroyIOProcID undoes it.
-    virtual OSStatus createIOProcID(AudioObjectID device, IOProc proc, void* clientData,
-                                    IOProcID& outProcID) = 0;
+    // HAL's real-time thread; the block calls `proc` with `clientData`, and holds it until the
+    // procedure is destroyed, which may happen after the caller has let go.
+    // AudioDeviceDestroyIOProcID undoes it.
+    virtual OSStatus createIOProcID(AudioObjectID device, IOProc proc,
+                                    std::shared_ptr<void> clientData, IOProcID& outProcID) = 0;
     virtual OSStatus destroyIOProcID(AudioObjectID device, IOProcID proc) = 0;
 
-    // AudioDeviceStart / AudioDeviceStop. Stopping waits for a running cycle to finish.
+    // AudioDeviceStart / AudioDeviceStop. Neither may block the main thread: starting an
+    // aggregate device whose tap waits for audio can take long, so an implementation may carry
+    // out starting, stopping and the destruction of procedures, aggregate devices and taps
+    // later, in the order they were asked for, and answer success for the request.
     virtual OSStatus startDevice(AudioObjectID device, IOProcID proc) = 0;
     virtual OSStatus stopDevice(AudioObjectID device, IOProcID proc) = 0;
 };

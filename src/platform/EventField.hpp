@@ -18,6 +18,9 @@ inline constexpr std::uint32_t scrollFixedPtDeltaAxis1 = 93;
 inline constexpr std::uint32_t scrollFixedPtDeltaAxis2 = 94;
 inline constexpr std::uint32_t scrollPointDeltaAxis1 = 96;
 inline constexpr std::uint32_t scrollPointDeltaAxis2 = 97;
+// Non-zero only on events of a touch gesture (trackpad, Magic Mouse) and its momentum.
+inline constexpr std::uint32_t scrollPhase = 99;
+inline constexpr std::uint32_t scrollMomentumPhase = 123;
 }  // namespace eventField
 
 namespace modifierFlag {

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 
 #include "base/Point.hpp"
 #include "platform/Event.hpp"
@@ -36,8 +37,10 @@ public:
                                                 bool keyDown) = 0;
     virtual std::unique_ptr<Event> makeMouseEvent(SourceState source, EventType type,
                                                   Point location, MouseButton button) = 0;
-    virtual std::unique_ptr<Event> makeScrollEvent(SourceState source, ScrollUnit unit,
-                                                   std::int32_t vertical,
+    // CGEventCreateScrollWheelEvent2 with two wheels: wheel 1 vertical, wheel 2 horizontal.
+    // No source state gives an event with no source.
+    virtual std::unique_ptr<Event> makeScrollEvent(std::optional<SourceState> source,
+                                                   ScrollUnit unit, std::int32_t vertical,
                                                    std::int32_t horizontal) = 0;
     virtual void post(Location location, Event& event) = 0;
 

@@ -17,6 +17,13 @@ class EventMonitors;
 class Screens;
 class KeyboardLayout;
 class WindowList;
+class PreferenceDomains;
+class ChildProcesses;
+class HIDEventServices;
+class Pasteboard;
+class Thumbnails;
+class Hashing;
+class DateFormatting;
 struct InputServices;
 
 // Every port, handed to the registry and the tools at construction. The app fills it with the
@@ -40,6 +47,14 @@ struct Platform {
     InputServices& input;
     KeyboardLayout& keyboardLayout;
     WindowList& windowList;
+    // Other programs' preference domains, and the programs Quorvane runs (killall, hidutil).
+    PreferenceDomains& preferenceDomains;
+    ChildProcesses& childProcesses;
+    HIDEventServices& hidEventServices;
+    Pasteboard& pasteboard;
+    Thumbnails& thumbnails;
+    Hashing& hashing;
+    DateFormatting& dateFormatting;
 };
 
 }  // namespace quorvane

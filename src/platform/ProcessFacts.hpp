@@ -21,6 +21,10 @@ public:
     virtual std::string displayName(const std::string& path) = 0;
     // The identifier of the bundle at a path; nothing when it is not a bundle or has none.
     virtual std::optional<std::string> bundleIdentifier(const std::string& bundlePath) = 0;
+    // A string of the Info.plist of the application bundle at a file URL (as a running
+    // application's bundleURL gives it); nothing when the bundle or the string is missing.
+    virtual std::optional<std::string> infoString(const std::string& bundleURL,
+                                                  const std::string& key) = 0;
     // Orders names for people the way the system's lists do (localized, case-insensitive):
     // negative, zero or positive.
     virtual int compareNames(const std::string& a, const std::string& b) = 0;

@@ -10,6 +10,7 @@
 #include <fstream>
 #include <sstream>
 
+#include "base/AtomicFile.hpp"
 #include "base/Json.hpp"
 #include "portable/PreferenceJson.hpp"
 
@@ -21,8 +22,7 @@ std::string systemError(int code) {
     return std::strerror(code);
 }
 
-// Writes the whole text to a new owner-only file beside `path`, flushes it to the disk, and
-// renames it over `path`. Preferences may hold private text (snippets, history settings).
+// Preferences may hold private text (snippets, history settings), so the file is owner-only.
 bool writeAtomically(const std::filesystem::path& path, const std::string& text,
                      std::string& error) {
     std::error_code ec;
@@ -33,31 +33,7 @@ bool writeAtomically(const std::filesystem::path& path, const std::string& text,
             return false;
         }
     }
-    std::string temporary = path.string() + ".XXXXXX";
-    const int fd = ::mkstemp(temporary.data());
-    if (fd < 0) {
-        error = "cannot write " + path.string() + ": " + systemError(errno);
-        return false;
-    }
-    bool ok = ::fchmod(fd, 0600) == 0;
-    std::size_t written = 0;
-    while (ok && written < text.size()) {
-        const ssize_t n = ::write(fd, text.data() + written, text.size() - written);
-        if (n < 0 && errno == EINTR) {
-            continue;
-        }
-        ok = n > 0;
-        written += ok ? static_cast<std::size_t>(n) : 0;
-    }
-    ok = ok && ::fsync(fd) == 0;
-    const int savedErrno = errno;
-    ok = (::close(fd) == 0) && ok;
-    if (!ok || std::rename(temporary.c_str(), path.c_str()) != 0) {
-        error = "cannot write " + path.string() + ": " + systemError(ok ? errno : savedErrno);
-        ::unlink(temporary.c_str());
-        return false;
-    }
-    return true;
+    return writeFileAtomically(path, text, error);
 }
 
 }  // namespace

@@ -29,6 +29,7 @@ public:
     void remove(std::string_view key) override;
 
     const std::filesystem::path& path() const { return path_; }
+    const MemoryPreferences::Values& values() const { return values_.values(); }
     std::string lastError() const override { return lastError_; }
 
 private:

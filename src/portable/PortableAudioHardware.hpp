@@ -43,7 +43,9 @@ public:
         return kStatus;
     }
     OSStatus destroyAggregateDevice(AudioObjectID) override { return kStatus; }
-    OSStatus createIOProcID(AudioObjectID, IOProc, void*, IOProcID&) override { return kStatus; }
+    OSStatus createIOProcID(AudioObjectID, IOProc, std::shared_ptr<void>, IOProcID&) override {
+        return kStatus;
+    }
     OSStatus destroyIOProcID(AudioObjectID, IOProcID) override { return kStatus; }
     OSStatus startDevice(AudioObjectID, IOProcID) override { return kStatus; }
     OSStatus stopDevice(AudioObjectID, IOProcID) override { return kStatus; }

@@ -18,7 +18,7 @@ public:
     std::unique_ptr<Event> makeMouseEvent(SourceState, EventType, Point, MouseButton) override {
         return nullptr;
     }
-    std::unique_ptr<Event> makeScrollEvent(SourceState, ScrollUnit, std::int32_t,
+    std::unique_ptr<Event> makeScrollEvent(std::optional<SourceState>, ScrollUnit, std::int32_t,
                                            std::int32_t) override {
         return nullptr;
     }

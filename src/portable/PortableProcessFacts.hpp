@@ -15,6 +15,9 @@ public:
     std::optional<std::string> bundleIdentifier(const std::string&) override {
         return std::nullopt;
     }
+    std::optional<std::string> infoString(const std::string&, const std::string&) override {
+        return std::nullopt;
+    }
     int compareNames(const std::string& a, const std::string& b) override;
 };
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <string>
 #include <variant>
 
 #include "base/Observable.hpp"
@@ -18,6 +19,12 @@ struct PanelContent {
         std::function<SettingsPage()> make;
         const Observable* source = nullptr;
         double width = 320;
+        // For pages whose rows come and go (the mixer): when `source` publishes and this
+        // answers something new, the page is built again; otherwise its controls only re-read
+        // their bindings, so a slider being dragged is never replaced. Empty: built once.
+        std::function<std::string()> layoutKey = nullptr;
+        // Told when the pointer enters (true) and leaves (false) the page. Empty: not tracked.
+        std::function<void(bool)> pointerInside = nullptr;
     };
 
     // Or Quorvane's own menu: the control grid, "Settings…" and "Quit Quorvane".

@@ -90,6 +90,28 @@ struct SettingsRow {
         std::function<void(std::size_t index)> remove;  // empty: items cannot be removed
         std::string emptyText;
     };
+    struct EditableEntry {
+        std::string key;
+        std::string value;
+        std::string warning;  // shown under the entry; empty for none
+    };
+    // A list the user edits in place, in the user's own order: each entry a short key field
+    // and a value field side by side, a remove button, and a warning under it when it has one;
+    // an add button under the list. Entries come and go, so renderers read `entries` again on
+    // every refresh.
+    struct EditableList {
+        std::string keyPlaceholder;
+        std::string valuePlaceholder;
+        std::string removeSymbol;  // an SF Symbols name
+        std::string addTitle;
+        std::function<std::vector<EditableEntry>()> entries;
+        std::function<void(std::size_t index, const std::string&)> setKey;
+        std::function<void(std::size_t index, const std::string&)> setValue;
+        std::function<void(std::size_t index)> remove;
+        std::function<void()> add;
+        // Moves an entry to another place; empty when the order is fixed.
+        std::function<void(std::size_t from, std::size_t to)> move;
+    };
     struct Note {
         std::string text;
     };
@@ -110,7 +132,7 @@ struct SettingsRow {
     };
 
     using Kind = std::variant<Toggle, Choice, Slider, Stepper, TextField, Shortcut, AppList,
-                              ItemList, Note, Warning, Button, Custom>;
+                              ItemList, EditableList, Note, Warning, Button, Custom>;
     Kind kind;
     // Nothing shown when this answers false; an empty function means always shown.
     std::function<bool()> isVisible;

@@ -62,6 +62,34 @@ TEST(AppLifecycle, APermissionChangeReconcilesAndASetupNeedOpensTheToolsPage) {
     EXPECT_EQ(launched.fakes.calls.back(), "start:remap");
 }
 
+TEST(AppLifecycle, TheCommandLinesWordReloadsThePreferencesAndNamesAloneSwitchNothing) {
+    LaunchedApp launched;
+    launched.add("alpha").hasControl = true;
+    launched.add("beta");
+    launched.fakes.preferences.set(FirstRunModel::kDoneKey, true);
+    launched.launch();
+    launched.fakes.calls.clear();
+
+    // Another process posting a self-switch name to the distributed centre reaches nothing.
+    launched.fakes.workspace.distributed[ToolRegistry::kTurnedItselfOn].call();
+    EXPECT_TRUE(launched.fakes.calls.empty());
+
+    // The command line writes the store, then says only that it changed.
+    launched.fakes.preferences.set("tool.beta.enabled", true);
+    launched.fakes.preferences.set("controls.toolIDs", PreferenceValue::stringArray({"alpha"}));
+    launched.fakes.workspace.distributed[ToolRegistry::kPreferencesChanged].call();
+    EXPECT_EQ(launched.fakes.calls, (Calls{"start:beta"}));
+    EXPECT_EQ(launched.registry().controlIDs(), std::vector<std::string>{"alpha"});
+
+    launched.fakes.preferences.set("tool.beta.enabled", false);
+    launched.fakes.workspace.distributed[ToolRegistry::kPreferencesChanged].call();
+    EXPECT_EQ(launched.fakes.calls.back(), "stop:beta");
+    launched.registry().setInControls(false, launched.tool("alpha"));
+    EXPECT_EQ(launched.fakes.preferences.stringArray("controls.toolIDs"),
+              std::vector<std::string>{})
+        << "the app's own later change starts from the reload";
+}
+
 TEST(AppLifecycle, TheMenuOpensSettingsAndQuitsAndQuittingStopsTheToolsInOrder) {
     LaunchedApp launched;
     launched.add("alpha");

@@ -24,6 +24,18 @@ struct PermissionCenterTest : ::testing::Test {
     void tick() { fakes.scheduler.advance(PermissionCenter::kPollInterval); }
 };
 
+TEST_F(PermissionCenterTest, GrantsPresentAtLaunchAreReadAtConstructionWithoutACallback) {
+    fakes.permissionProbe.accessibility = true;
+    fakes.permissionProbe.screenCapture = true;
+    PermissionCenter launched(fakes.permissionProbe, fakes.scheduler, fakes.workspace);
+    int launchedChanges = 0;
+    launched.onChange = [&] { ++launchedChanges; };
+    EXPECT_TRUE(launched.accessibilityGranted()) << "known before the first reconcile";
+    EXPECT_TRUE(launched.screenRecordingGranted());
+    tick();
+    EXPECT_EQ(launchedChanges, 0) << "the first tick finds nothing new";
+}
+
 TEST_F(PermissionCenterTest, APollNoticesEachRealChangeOnce) {
     tick();
     EXPECT_EQ(changes, 0) << "nothing changed, nothing said";
@@ -62,7 +74,16 @@ TEST_F(PermissionCenterTest, RequestsAskTheSystemFirstAndFallBackToSystemSetting
 
     center->request(Permission::screenRecording);
     EXPECT_EQ(fakes.permissionProbe.screenCaptureRequests, 1);
-    EXPECT_EQ(fakes.workspace.openedURLs.size(), 3u);
+    ASSERT_EQ(fakes.workspace.openedURLs.size(), 3u);
+    EXPECT_EQ(fakes.workspace.openedURLs.back(), PermissionCenter::kScreenCaptureSettingsURL)
+        << "refused at the request: the pane is the way left";
+
+    fakes.permissionProbe.screenCaptureRequestAnswer = true;
+    fakes.permissionProbe.screenCapture = true;
+    center->request(Permission::screenRecording);
+    EXPECT_EQ(fakes.workspace.openedURLs.size(), 3u) << "granted: no pane";
+    EXPECT_TRUE(center->screenRecordingGranted());
+    changes = 0;
 
     // Granted at the prompt: the flag is read at once and no pane opens.
     fakes.permissionProbe.accessibilityPromptAnswer = true;

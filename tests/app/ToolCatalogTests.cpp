@@ -30,13 +30,115 @@ bool isJoinedWords(const std::string& text, std::string_view letters, char separ
 
 constexpr std::string_view kLowerCase = "abcdefghijklmnopqrstuvwxyz";
 
-TEST(ToolCatalog, ListsEveryToolOnceInRegistryOrder) {
+// The permissions a tool's mechanism needs: "AX" accessibility (taps that rewrite or post
+// events, other apps' windows), "SR" screen recording (window images), "audio" system audio
+// recording (process taps); a tool that only writes preferences or devices needs none.
+std::string permissionCodes(const std::vector<Permission>& permissions) {
+    std::string codes;
+    for (const Permission permission : permissions) {
+        codes += codes.empty() ? "" : "+";
+        switch (permission) {
+            case Permission::accessibility:
+                codes += "AX";
+                break;
+            case Permission::screenRecording:
+                codes += "SR";
+                break;
+            case Permission::systemAudioRecording:
+                codes += "audio";
+                break;
+        }
+    }
+    return codes;
+}
+
+// The ids key the preferences and the order is the start order, so the whole table is pinned:
+// a swapped pair, a typo or a permission that does not match the mechanism fails here.
+TEST(ToolCatalog, ListsEveryToolOnceInRegistryOrderWithThePermissionsItsMechanismNeeds) {
+    struct Row {
+        std::string_view id;
+        std::string_view name;
+        std::string_view permissions;
+    };
+    static constexpr Row kExpected[] = {
+        {"stop-focus-stealing", "Stop Focus Stealing", "AX"},
+        {"restore-window-layout", "Restore Window Layout", "AX"},
+        {"window-screen-memory", "Open Windows Where You Left Them", "AX"},
+        {"window-layouts", "Saved Window Layouts", "AX"},
+        {"keep-spaces-in-order", "Keep Desktops in Order", ""},
+        {"green-button-maximize", "Green Button Maximizes", "AX"},
+        {"quit-on-last-window", "Quit on Last Window Close", "AX"},
+        {"window-snap", "Window Snapping", "AX"},
+        {"window-drag", "Move & Resize from Anywhere", "AX"},
+        {"pin-window", "Pin Window on Top", "AX+SR"},
+        {"window-switcher", "Window Switcher", "AX+SR"},
+        {"dock-minimize", "Click Dock Icon to Hide", "AX"},
+        {"dock-previews", "Dock Window Previews", "AX+SR"},
+        {"dock-instant-switch", "Dock Moves to Any Screen Instantly", "AX"},
+        {"instant-dock", "Instant Dock", ""},
+        {"dim-background", "Dim Background Windows", "AX"},
+        {"key-remap", "Remap Keys", ""},
+        {"home-end", "Home & End Like Windows", "AX"},
+        {"hold-to-quit", "Hold ⌘Q to Quit", "AX"},
+        {"input-source-per-app", "Keyboard Language per App", ""},
+        {"app-shortcuts", "App Shortcuts", ""},
+        {"paste-plain-text", "Paste as Plain Text", "AX"},
+        {"clipboard-history", "Clipboard History", "AX"},
+        {"text-snippets", "Text Snippets", "AX"},
+        {"scroll-direction", "Separate Scroll Direction", "AX"},
+        {"smooth-scrolling", "Smooth Mouse Scrolling", "AX"},
+        {"mouse-buttons", "Mouse Back & Forward", "AX"},
+        {"app-volume", "App Volume", "audio"},
+        {"headphone-mic", "Keep Headphones Sounding Good", ""},
+        {"mic-mute", "Microphone Mute Shortcut", ""},
+        {"output-lock", "Keep Sound Output", ""},
+        {"volume-hud", "Classic Volume Overlay", "AX"},
+        {"mute-startup-sound", "Mute Startup Sound", ""},
+        {"finder-cut", "Cut & Paste Files", "AX"},
+        {"finder-new-file", "Finder Right-Click Menu", ""},
+        {"folder-icons", "Folder Colors & Icons", ""},
+        {"screen-recorder", "Record Screen with Sound", "SR"},
+        {"archives", "Open RAR & 7z Files", ""},
+        {"mic-lock", "Keep Microphone", ""},
+        {"stop-music", "Stop Music Opening by Itself", ""},
+        {"clean-keyboard", "Lock Keyboard for Cleaning", "AX"},
+        {"power-schedule", "Sleep & Shut Down Schedule", ""},
+        {"startup-items", "Startup Items", ""},
+        {"equalizer", "System Equalizer", "audio"},
+        {"default-apps", "Default Apps", ""},
+        {"app-uninstaller", "App Uninstaller", ""},
+        {"free-up-space", "Free Up Space", ""},
+        {"battery-limit", "Battery Charge Limit", ""},
+        {"device-batteries", "Device Batteries", ""},
+        {"keep-awake", "Keep Awake", ""},
+        {"menu-bar-stats", "System Stats in Menu Bar", ""},
+        {"menu-bar-calendar", "Calendar in the Menu Bar", ""},
+        {"display-brightness", "External Display Brightness", "AX"},
+        {"text-from-screen", "Copy Text from Screen", "SR"},
+        {"screenshot-settings", "Screenshot Settings", ""},
+        {"screenshot-screen", "Screenshots on the Screen You Took Them", "SR"},
+        {"color-picker", "Color Picker", ""},
+        {"safe-drives", "Safe Drives on Sleep", ""},
+        {"lock-screen", "Lock, Sleep & Display Off Shortcuts", ""},
+        {"presentation-mode", "Presentation Mode", ""},
+        {"photos-auto-open", "Stop Photos Opening", ""},
+        {"hide-desktop-icons", "Hide Desktop Icons", ""},
+        {"show-hidden-files", "Show Hidden Files", ""},
+        {"better-finder", "Better Finder", ""},
+        {"no-ds-store", "No .DS_Store on Drives", ""},
+        {"fit-more-menu-bar-icons", "Fit More Menu Bar Icons", ""},
+        {"hide-menu-bar-icons", "Hide Menu Bar Icons", ""},
+        {"hide-menu-icons", "Hide Menu Item Icons", ""},
+    };
     const auto catalog = ToolCatalog::descriptors();
-    ASSERT_EQ(catalog.size(), 68u);
-    EXPECT_EQ(catalog[0].identity.id, "stop-focus-stealing");
-    EXPECT_EQ(catalog[7].identity.id, "window-snap");
-    EXPECT_EQ(catalog[43].identity.id, "equalizer");
-    EXPECT_EQ(catalog[67].identity.id, "hide-menu-icons");
+    ASSERT_EQ(catalog.size(), std::size(kExpected));
+    for (std::size_t i = 0; i < catalog.size(); ++i) {
+        const ToolIdentity& tool = catalog[i].identity;
+        SCOPED_TRACE(kExpected[i].id);
+        EXPECT_EQ(tool.id, kExpected[i].id) << "at position " << i;
+        EXPECT_EQ(tool.name, kExpected[i].name);
+        EXPECT_EQ(permissionCodes(tool.requiredPermissions), kExpected[i].permissions);
+    }
 
     std::set<std::string> ids, names;
     for (const ToolDescriptor& tool : catalog) {

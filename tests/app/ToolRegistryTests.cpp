@@ -81,8 +81,10 @@ TEST(ToolRegistry, TurningARunningToolOffStopsItOnceAndLaterReconcilesLeaveItAlo
     app.journal.clear();
 
     app.registry->setEnabled(false, app.tool("alpha"), true);
+    EXPECT_TRUE(app.registry->tidiedIDs().contains("alpha")) << "stopping is its tidying";
     app.registry->reconcile();
-    EXPECT_EQ(app.journal, (Journal{"stop:alpha"}));
+    app.registry->reconcile();
+    EXPECT_EQ(app.journal, (Journal{"stop:alpha"})) << "no tidy after the stop";
     EXPECT_EQ(app.stored("alpha"), false);
     EXPECT_TRUE(app.setupOffered.empty()) << "turning off never opens anything";
 }
@@ -117,6 +119,7 @@ TEST(ToolRegistry, PermissionGatedToolWaitsForTheGrantAndStopsWhenItIsRevoked) {
 TEST(ToolRegistry, SetupIsOfferedOnlyWhenSwitchedOnByTheUser) {
     Launch app;
     app.add("remap", {Permission::accessibility});
+    app.add("mixer");
     app.start();
     app.tool("remap").setupNeeded = true;
 
@@ -124,6 +127,12 @@ TEST(ToolRegistry, SetupIsOfferedOnlyWhenSwitchedOnByTheUser) {
     EXPECT_TRUE(app.setupOffered.empty());
     app.registry->setEnabled(true, app.tool("remap"), true);
     EXPECT_EQ(app.setupOffered, (std::vector<std::string>{"remap"}));
+    app.registry->setEnabled(false, app.tool("remap"), true);
+    EXPECT_EQ(app.setupOffered.size(), 1u) << "switching off offers nothing";
+
+    app.tool("mixer").opensSettings = true;
+    app.registry->setEnabled(true, app.tool("mixer"), true);
+    EXPECT_EQ(app.setupOffered.back(), "mixer") << "opening its settings needs no setup";
 }
 
 TEST(ToolRegistry, SelfSwitchNotificationsPersistAndNeverOfferSetup) {
@@ -191,7 +200,7 @@ TEST(ToolRegistrySearch, WordsMatchWholeOrThroughTheirStem) {
     snap.mutableIdentity().summary = "Move a window to half of the screen.";
     RecordingTool maps(journal, "maps", {}, {"map"});
     maps.mutableIdentity().name = "Atlas";
-    maps.mutableIdentity().summary = "Shows where you are.";
+    maps.mutableIdentity().summary = "Shows where you are as you type.";
     maps.mutableIdentity().category = ToolCategory::system;
 
     const auto words = [](const char* query) { return ToolRegistry::searchWords(query); };
@@ -205,6 +214,8 @@ TEST(ToolRegistrySearch, WordsMatchWholeOrThroughTheirStem) {
     EXPECT_TRUE(ToolRegistry::matches(maps, words("finder"))) << "the category title counts";
     EXPECT_TRUE(ToolRegistry::matches(maps, words("mapping"))) << "mapp, then map";
     EXPECT_FALSE(ToolRegistry::matches(maps, words("maped"))) << "five letters keep their ed";
+    EXPECT_FALSE(ToolRegistry::matches(maps, words("typing"))) << "six letters with ing: whole";
+    EXPECT_FALSE(ToolRegistry::matches(maps, words("maples"))) << "neither maple nor mapl";
 }
 
 }  // namespace

@@ -26,8 +26,8 @@ TEST_F(MonitorTest, ProcessesAreGroupedIntoApplicationsByTheFirstRuleThatApplies
     facts.applications["com.apple.Safari"] = "/Applications/Safari.app";
     facts.applications["com.spotify.client"] = "/Applications/Spotify.app";
     facts.names = {{506, "daemon"}, {509, "node"}, {510, "node"}};
-    hal.addProcess(100, 501, "com.google.Chrome");
-    hal.addProcess(101, 502, "com.google.Chrome.helper", true);
+    hal.addProcess(100, 501, "com.google.Chrome", true);
+    hal.addProcess(101, 502, "com.google.Chrome.helper");
     hal.addProcess(102, 503, "com.apple.WebKit.GPU");
     hal.addProcess(103, 504, "com.apple.WebKit.WebContent", true);
     hal.addProcess(104, 505, std::nullopt);
@@ -56,7 +56,8 @@ TEST_F(MonitorTest, ProcessesAreGroupedIntoApplicationsByTheFirstRuleThatApplies
            "unreadable pid left out; an unreadable bundle identifier counts as empty";
     const auto& apps = monitor.apps();
     EXPECT_EQ(apps[1], (AudioApp{"com.google.Chrome", "Google Chrome", chrome, {100, 101}, true}))
-        << "a helper inside the bundle belongs to the outer application";
+        << "a helper inside the bundle belongs to the outer application, and a silent one "
+           "listed after the playing one leaves the application playing";
     EXPECT_EQ(apps[5], (AudioApp{"com.apple.WebKit",
                                  "Safari & Web Views",
                                  "/Applications/Safari.app",

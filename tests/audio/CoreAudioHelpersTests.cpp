@@ -36,6 +36,8 @@ TEST(CoreAudioHelpers, DeviceListsSkipWhatCannotBeNamedAndFallBackForTheRest) {
     EXPECT_FALSE(deviceWithID(hal, 0));
     EXPECT_FALSE(deviceWithID(hal, 13));
 
+    hal.setIDs(hal::kSystemObject, hal::kDevices, {});
+    EXPECT_TRUE(allDevices(hal).empty()) << "no devices at all";
     for (std::size_t bytes = 0; bytes < 4; ++bytes) {
         hal.data[{hal::kSystemObject, hal::globalAddress(hal::kDevices)}].assign(bytes, 0xFF);
         EXPECT_TRUE(allDevices(hal).empty()) << bytes << " bytes are not one ID";

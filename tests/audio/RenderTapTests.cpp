@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
+#include <limits>
 
 #include "audio/EqualizerEngine.hpp"
 #include "audio/EqualizerPreset.hpp"
@@ -103,6 +105,29 @@ TEST(RenderTap, ALoudPeakIsLimitedAtOnceAndReleasedSlowly) {
     EXPECT_GT(peak, 0.49f) << "released after about two seconds";
 }
 
+TEST(RenderTap, AfterAPeakTheLimiterLetsGoByTheSameFractionEverySilentFrame) {
+    Tap tap;
+    AudioBuffers peak;
+    peak.add(1, 1, 2.0f);
+    AudioBuffers silence;
+    silence.add(1, 4800);
+    AudioBuffers probe;
+    probe.add(1, 1, 0.5f);
+    AudioBuffers frame;
+    frame.add(1, 1);
+    AudioBuffers frames;
+    frames.add(1, 4800);
+    tap.render(peak, frame);
+    EXPECT_EQ(frame[0][0], 0.95f);
+    tap.render(silence, frames);
+    // A tenth of a second at 48 kHz takes a peak of 2 about halfway back to the ceiling.
+    const double released = 2.0 * std::pow(0.99986, 4800);
+    EXPECT_NEAR(tap.control.envelope(0), released, released * 1e-3);
+    tap.render(probe, frame);
+    EXPECT_NEAR(frame[0][0], 0.5 * 0.95 / (0.99986 * released + 0.00014 * 0.5), 1e-3)
+        << "the next sound is still held down by what is left of the peak";
+}
+
 TEST(RenderTap, BuffersPastTheEighthKeepNoEnvelope) {
     Tap tap(1.0f, 10);
     AudioBuffers input;
@@ -127,6 +152,35 @@ TEST(RenderTap, BuffersPastTheEighthKeepNoEnvelope) {
 // The reordered equalizer must compute what the frame-by-frame formulas compute, for every
 // layout: 1 to 8 channels, short buffers, a buffer per channel, more channels than filter
 // memories, a gain ramp, state carried from cycle to cycle.
+TEST(RenderTap, FilterMemoryAndEnvelopeUpsetByNaNRecoverWithinOneBuffer) {
+    // Two outputs: an interleaved stereo one and ten channels, where channels share memory.
+    for (const std::uint32_t channels : {2u, 10u}) {
+        Tap tap;
+        tap.engine.update(EqualizerPreset::all()[5].gains, -6.0, 48000);
+        AudioBuffers input;
+        input.add(channels, 256, 0.25f);
+        AudioBuffers output;
+        output.add(channels, 256);
+        tap.render(input, output);
+        // With ten channels the last three share the eighth channel's memory.
+        const std::size_t last = std::min<std::size_t>(channels, EqualizerState::kChannels) - 1;
+        tap.state.memory[last][3].y1 = std::numeric_limits<float>::quiet_NaN();
+        tap.state.memory[0][9].x2 = std::numeric_limits<float>::infinity();
+        tap.control.setEnvelope(0, std::numeric_limits<float>::quiet_NaN());
+
+        tap.render(input, output);
+        for (const float sample : output[0]) {
+            ASSERT_TRUE(std::isfinite(sample)) << channels << " channels: the upset buffer";
+        }
+        tap.render(input, output);
+        for (std::size_t i = 0; i < output[0].size(); ++i) {
+            ASSERT_TRUE(std::isfinite(output[0][i]) && output[0][i] != 0.0f)
+                << channels << " channels, sample " << i << ": sound again on the next buffer";
+        }
+        EXPECT_TRUE(std::isfinite(tap.control.envelope(0)));
+    }
+}
+
 TEST(RenderTap, EqualizedOutputAgreesWithTheFrameByFrameFormulas) {
     struct Layout {
         std::vector<std::uint32_t> outputChannels;

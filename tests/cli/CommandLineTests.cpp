@@ -10,24 +10,12 @@
 #include "input/ShortcutSetting.hpp"
 #include "platform/EventField.hpp"
 #include "portable/FilePreferences.hpp"
+#include "support/FileCommandHost.hpp"
 #include "support/RecordingTool.hpp"
 #include "support/TemporaryDirectory.hpp"
 
 namespace quorvane {
 namespace {
-
-struct TestHost : CommandHost {
-    std::filesystem::path file;
-    std::vector<std::string> announced;
-
-    std::unique_ptr<Preferences> openDefaultPreferences(std::string& error) override {
-        return FilePreferences::open(file, error);
-    }
-    std::string defaultPreferencesDescription() const override { return file.string(); }
-    void announce(const std::string& name, const std::string& id) override {
-        announced.push_back(name + ":" + id);
-    }
-};
 
 struct Result {
     int status;
@@ -37,7 +25,7 @@ struct Result {
 
 struct CommandLineTest : ::testing::Test {
     TemporaryDirectory dir;
-    TestHost host;
+    FileCommandHost host;
     std::vector<std::string> journal;
     // The real catalog plus two built tools, one of which has a control tile.
     CommandLine::ToolFactory factory = [this](const Platform& platform) {
@@ -90,7 +78,7 @@ TEST_F(CommandLineTest, EnableAndDisablePersistThroughTheRegistryAndTellTheApp) 
     auto on = run({"enable", "pointer"});
     ASSERT_EQ(on.status, 0) << on.err;
     EXPECT_NE(on.out.find("Accessibility"), std::string::npos) << "says what it still needs";
-    EXPECT_EQ(host.announced, (std::vector<std::string>{"QuorvaneToolTurnedItselfOn:pointer"}));
+    EXPECT_EQ(host.preferencesChanges, 1) << "the running app reads the store again";
     std::string error;
     EXPECT_EQ(FilePreferences::open(host.file, error)->boolean("tool.pointer.enabled"), true);
     EXPECT_NE(run({"tools"}).out.find("on\n"), std::string::npos);
@@ -104,7 +92,7 @@ TEST_F(CommandLineTest, RefusalsAreOneLineWithStatusTwoAndWriteNothing) {
     const std::vector<std::vector<std::string>> refused = {
         {"enable", "no-such-tool"},
         {"enable", "pin-window"},
-        {"settings", "headphone-mic"},
+        {"settings", "volume-hud"},
         {"controls", "add", "pointer"},
         {"frobnicate"},
         {},
@@ -136,6 +124,7 @@ TEST_F(CommandLineTest, SearchControlsAndSettingsWorkOnAnotherStore) {
 
     EXPECT_EQ(run({"--prefs=" + other.string(), "controls", "add", "clock"}).status, 0);
     EXPECT_EQ(run({"--prefs", other.string(), "controls", "add", "clock"}).status, 0);
+    EXPECT_EQ(host.preferencesChanges, 2) << "a running app hears of its tiles too";
     EXPECT_EQ(run({"--prefs", other.string(), "controls"}).out, "clock\n");
     EXPECT_FALSE(std::filesystem::exists(host.file)) << "--prefs leaves the default store alone";
 

@@ -72,6 +72,21 @@ SettingsPage everyRowKind() {
            {}},
           {R::ItemList{"Pinned", [] { return std::vector<std::string>{}; }, {}, ""}, {}},
           {R::ItemList{"Saved", [] { return std::vector<std::string>{}; }, {}, "Nothing saved yet"},
+           {}},
+          {R::EditableList{";code",
+                           "",
+                           "minus.circle",
+                           "Add Snippet",
+                           [] {
+                               return std::vector<R::EditableEntry>{{";a", "Alpha", ""},
+                                                                    {";ab", "", "Never fires."},
+                                                                    {"", "Two\nlines", ""}};
+                           },
+                           {},
+                           {},
+                           {},
+                           {},
+                           {}},
            {}}},
          ""});
     page.add({"",

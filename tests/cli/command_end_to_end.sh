@@ -4,6 +4,9 @@ set -u
 quorvane="$1"
 dir=$(mktemp -d)
 trap 'rm -rf "$dir"' EXIT
+# Tools open their data folders when they are built; never the user's own.
+export HOME="$dir/home" XDG_DATA_HOME="$dir/data"
+mkdir -p "$HOME"
 store="$dir/preferences.json"
 failures=0
 check() { # description, expected status, command...
@@ -28,7 +31,26 @@ printf '{"broken": ' >"$store"
 check "corrupt store" 2 "$quorvane" --prefs "$store" tools
 [ "$(cat "$store")" = '{"broken": ' ] || { echo "FAIL: corrupt store was touched"; failures=$((failures + 1)); }
 XDG_CONFIG_HOME="$dir/config" check "default store" 0 "$quorvane" controls
+for id in app-volume headphone-mic output-lock mic-lock mic-mute; do
+    check "settings $id" 0 "$quorvane" --prefs "$dir/settings.json" settings "$id"
+done
 check "help" 0 "$quorvane" --help
+rm -f "$store"
+check "enable a preference tool" 0 "$quorvane" --prefs "$store" enable show-hidden-files
+grep -q '"AppleShowAllFiles": true' "$dir/com.apple.finder.json" || { echo "FAIL: Finder's domain not written"; failures=$((failures + 1)); }
+check "disable a preference tool" 0 "$quorvane" --prefs "$store" disable show-hidden-files
+grep -q 'AppleShowAllFiles' "$dir/com.apple.finder.json" && { echo "FAIL: Finder's domain not put back"; failures=$((failures + 1)); }
+
+keys="$dir/keys.json"
+check "keys bad name" 2 "$quorvane" --prefs "$keys" keys add hyper escape
+grep -q 'capsLock, escape' "$dir/err" || { echo "FAIL: keys lists the valid names"; failures=$((failures + 1)); }
+[ ! -e "$keys" ] || { echo "FAIL: a bad key name wrote the store"; failures=$((failures + 1)); }
+check "keys add" 0 "$quorvane" --prefs "$keys" keys add capsLock escape --keyboards external
+check "keys show" 0 "$quorvane" --prefs "$keys" keys show
+grep -q '"HIDKeyboardModifierMappingSrc":30064771129,"HIDKeyboardModifierMappingDst":30064771113' "$dir/out" ||
+    { echo "FAIL: keys show gives the hidutil call"; failures=$((failures + 1)); }
+check "keys remove" 0 "$quorvane" --prefs "$keys" keys remove capsLock
+check "keys presets" 0 "$quorvane" --prefs "$keys" keys presets
 
 if [ "$failures" -eq 0 ]; then echo "command end to end: all checks passed"; fi
 exit "$failures"

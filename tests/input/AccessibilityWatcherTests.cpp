@@ -62,6 +62,19 @@ TEST_F(AccessibilityWatcherTest, WatchesRegularAppsOnlyAndNeverItself) {
     EXPECT_EQ(fakes.accessibility.observerOf(20), nullptr) << "observer released";
 }
 
+TEST_F(AccessibilityWatcherTest,
+       AlreadyRegisteredCountsAsRegisteredAndTheObserverIsPutOnTheRunLoop) {
+    running(70);
+    fakes.accessibility.registrationAnswers[70] = Accessibility::kNotificationAlreadyRegistered;
+    watcher.start();
+    EXPECT_EQ(journal, (std::vector<std::string>{"ready:70"}));
+    EXPECT_EQ(watcher.pendingAttempt(70), 0) << "nothing to retry";
+    ASSERT_EQ(fakes.accessibility.observers.size(), 1u);
+    EXPECT_TRUE(fakes.accessibility.observers[0]->scheduled)
+        << "an observer off the run loop never delivers a notification";
+    EXPECT_TRUE(watcher.observe("AXTitleChanged", fakes.accessibility.application(70), 70));
+}
+
 TEST_F(AccessibilityWatcherTest, RetriesFiftyTimesFastThenTenTimesSlowThenGivesUp) {
     watcher.start();
     refuse(30);

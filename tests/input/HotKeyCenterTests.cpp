@@ -60,7 +60,11 @@ TEST_F(HotKeyCenterTest, PauseSuspendsEveryShortcutAndResumeRegistersThemAgain) 
     EXPECT_FALSE(system.press(2, 0x800));
 
     center.resume();
+    EXPECT_TRUE(system.live.empty()) << "two pauses need two resumes";
+    center.resume();
     EXPECT_EQ(system.live.size(), 2u);
+    center.resume();
+    EXPECT_FALSE(center.isPaused()) << "an extra resume is harmless";
     EXPECT_TRUE(system.press(2, 0x800));
     EXPECT_EQ(fired, (std::vector<std::string>{"during"}));
     EXPECT_EQ(system.live.rbegin()->second.id, during->id()) << "same id as before";

@@ -26,6 +26,9 @@ TEST(KeyCombo, ShortcutsNeedControlOptionOrCommandUnlessTheKeyIsAFunctionKey) {
     EXPECT_EQ(fromKey(0, command | shift, "a")->modifierFlags, command | shift);
     EXPECT_EQ(fromKey(96, 0, ""), (KeyCombo{96, 0, "F5"})) << "a bare F-key is a shortcut";
     EXPECT_FALSE(fromKey(49, 0, " ")) << "Space is a name, not a function key";
+    EXPECT_FALSE(fromKey(3, 0, "f")) << "the letter F is no function key";
+    EXPECT_FALSE(fromKey(3, shift, "f")) << "nor is ⇧F";
+    EXPECT_EQ(fromKey(3, command, "f"), (KeyCombo{3, command, "F"}));
 
     // Caps lock, the numeric pad and fn are not part of a shortcut.
     EXPECT_EQ(fromKey(123, command | 0x10000 | 0x200000 | 0x800000, "")->modifierFlags, command);
@@ -70,6 +73,16 @@ TEST(KeyCombo, StoredNoShortcutSurvivesWhileMissingOrUnreadableDataGivesTheDefau
         EXPECT_EQ(KeyCombo::load(preferences, "clipboard.shortcut", fallback), fallback);
         EXPECT_EQ(preferences.object("clipboard.shortcut"), damaged) << "left as it was";
     }
+
+    // Flag bits beyond the four modifiers are dropped on load; what is then no shortcut at all
+    // (only Caps Lock on a letter) is refused for the default.
+    preferences.set("clipboard.shortcut",
+                    bytes(R"({"keyCode":40,"modifierFlags":1114112,"keyLabel":"K"})"));
+    EXPECT_EQ(KeyCombo::load(preferences, "clipboard.shortcut", fallback),
+              (KeyCombo{40, command, "K"}));
+    preferences.set("clipboard.shortcut",
+                    bytes(R"({"keyCode":40,"modifierFlags":65536,"keyLabel":"K"})"));
+    EXPECT_EQ(KeyCombo::load(preferences, "clipboard.shortcut", fallback), fallback);
 }
 
 }  // namespace

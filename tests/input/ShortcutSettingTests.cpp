@@ -124,5 +124,29 @@ TEST_F(ShortcutSettingTest, EscapeGivesUpAndStoppingTwiceResumesOnce) {
     EXPECT_TRUE(fakes.hotKeys.live.empty());
 }
 
+TEST_F(ShortcutSettingTest, StartingASecondRecorderEndsTheFirstAndOnlyItRecords) {
+    make();
+    setting->activate();
+    ShortcutSetting other(
+        fakes.platform(), "windowSnap.leftHalf", KeyCombo{123, control | option, "←"}, [] {},
+        [] {});
+    other.activate();
+
+    setting->recorder().start();
+    other.recorder().start();
+    EXPECT_FALSE(setting->recorder().isRecording()) << "one recorder at a time";
+    setting->recorder().stop();
+    EXPECT_TRUE(fakes.input.hotKeys.isPaused()) << "the first one's stop must not wake them";
+    EXPECT_FALSE(fakes.hotKeys.press(9, 0x100 | 0x200)) << "an owned combo fires nothing";
+    ASSERT_EQ(fakes.eventMonitors.monitors.size(), 1u) << "one key press, one recorder";
+
+    EXPECT_FALSE(type(40, command | option, "k"));
+    EXPECT_EQ(other.shortcut(), (KeyCombo{40, command | option, "K"}));
+    EXPECT_EQ(setting->shortcut(), (KeyCombo{9, command | shift, "V"}));
+    EXPECT_FALSE(fakes.input.hotKeys.isPaused());
+    EXPECT_TRUE(fakes.hotKeys.press(9, 0x100 | 0x200));
+    EXPECT_EQ(presses, 1);
+}
+
 }  // namespace
 }  // namespace quorvane

@@ -96,6 +96,12 @@ struct FakeAccessibility : Accessibility {
         value = found->second;
         return kSuccess;
     }
+    // Answered from `attributes` like a plain read, whatever the parameter.
+    std::int32_t copyParameterizedAttribute(const Element& element, std::string_view attribute,
+                                            const AccessibilityValue&,
+                                            AccessibilityValue& value) override {
+        return copyAttribute(element, attribute, value);
+    }
     std::int32_t setAttribute(const Element& element, std::string_view attribute,
                               const AccessibilityValue& value) override {
         const auto answer = writeAnswers.find(std::string(attribute));

@@ -11,11 +11,13 @@
 #include "audio/AudioCodes.hpp"
 #include "audio/AudioStreamFormat.hpp"
 #include "platform/AudioHardware.hpp"
+#include "support/FakeMisuse.hpp"
 
 namespace quorvane {
 
 // The HAL as a table of objects and their properties, with failures a test injects, a journal
 // of what was created and destroyed, listeners a test fires, and I/O procedures it runs by hand.
+// Using a tap, device or callback that does not exist (or no longer does) fails the test.
 class FakeAudioHardware : public AudioHardware {
 public:
     enum class Call {
@@ -37,7 +39,7 @@ public:
     struct IOProcRecord {
         AudioObjectID device;
         IOProc proc;
-        void* clientData;
+        std::shared_ptr<void> clientData;
         bool running = false;
     };
 
@@ -52,7 +54,10 @@ public:
                 const std::vector<std::uint32_t>& ids) {
         auto& bytes = data[{object, hal::globalAddress(selector)}];
         bytes.resize(ids.size() * 4);
-        std::memcpy(bytes.data(), ids.data(), bytes.size());
+        // An empty vector's data() may be null, which memcpy must never see, even for 0 bytes.
+        if (!ids.empty()) {
+            std::memcpy(bytes.data(), ids.data(), bytes.size());
+        }
     }
     void setString(AudioObjectID object, std::uint32_t selector, std::optional<std::string> text) {
         strings[{object, hal::globalAddress(selector)}] = std::move(text);
@@ -108,7 +113,7 @@ public:
                 std::span<AudioBufferView> output) {
         for (auto& [id, record] : ioProcs) {
             if (record.device == device) {
-                record.proc(record.clientData, input, output);
+                record.proc(record.clientData.get(), input, output);
             }
         }
     }
@@ -125,7 +130,9 @@ public:
         const OSStatus result = status(Call::read, object, address.selector, found != data.end());
         if (result == 0) {
             ioSize = std::min(ioSize, static_cast<std::uint32_t>(found->second.size()));
-            std::memcpy(outData, found->second.data(), ioSize);
+            if (ioSize > 0) {
+                std::memcpy(outData, found->second.data(), ioSize);
+            }
         }
         return result;
     }
@@ -170,7 +177,7 @@ public:
         });
     }
     OSStatus destroyProcessTap(AudioObjectID tap) override {
-        return destroy(taps.erase(tap), "destroy tap");
+        return destroy(taps, tap, "destroy tap");
     }
     OSStatus createAggregateDevice(const PreferenceValue::Dictionary& description,
                                    AudioObjectID& outDeviceID) override {
@@ -180,23 +187,44 @@ public:
         });
     }
     OSStatus destroyAggregateDevice(AudioObjectID device) override {
-        return destroy(devices.erase(device), "destroy device");
+        return destroy(devices, device, "destroy device");
     }
-    OSStatus createIOProcID(AudioObjectID device, IOProc proc, void* clientData,
+    OSStatus createIOProcID(AudioObjectID device, IOProc proc, std::shared_ptr<void> clientData,
                             IOProcID& outProcID) override {
+        if (!devices.contains(device) &&
+            std::find(deviceIDs.begin(), deviceIDs.end(), device) == deviceIDs.end()) {
+            return misuse("create callback", "a callback for a device that does not exist");
+        }
         return act(Call::createIOProc, 0, 0, [&] {
-            ioProcs[static_cast<AudioObjectID>(outProcID = nextID++)] = {device, proc, clientData};
+            ioProcs[static_cast<AudioObjectID>(outProcID = nextID++)] = {device, proc,
+                                                                         std::move(clientData)};
             journal.push_back("create callback");
         });
     }
-    OSStatus destroyIOProcID(AudioObjectID, IOProcID proc) override {
-        return destroy(ioProcs.erase(static_cast<AudioObjectID>(proc)), "destroy callback");
+    OSStatus destroyIOProcID(AudioObjectID device, IOProcID proc) override {
+        if (!callbackOf(device, proc)) {
+            return misuse("destroy callback",
+                          "destroyed a callback that, or whose device, does not exist");
+        }
+        return destroy(ioProcs, static_cast<AudioObjectID>(proc), "destroy callback");
     }
-    OSStatus startDevice(AudioObjectID, IOProcID proc) override {
-        return act(Call::start, 0, 0, [&] { setRunning(proc, true, "start"); });
+    OSStatus startDevice(AudioObjectID device, IOProcID proc) override {
+        IOProcRecord* record = callbackOf(device, proc);
+        if (!record) {
+            return misuse("start", "started a callback that, or whose device, does not exist");
+        }
+        return act(Call::start, 0, 0, [&] {
+            record->running = true;
+            journal.push_back("start");
+        });
     }
-    OSStatus stopDevice(AudioObjectID, IOProcID proc) override {
-        setRunning(proc, false, "stop");
+    OSStatus stopDevice(AudioObjectID device, IOProcID proc) override {
+        IOProcRecord* record = callbackOf(device, proc);
+        if (!record) {
+            return misuse("stop", "stopped a callback that, or whose device, does not exist");
+        }
+        record->running = false;
+        journal.push_back("stop");
         return 0;
     }
 
@@ -228,13 +256,29 @@ private:
         }
         return result;
     }
-    OSStatus destroy(std::size_t, const char* entry) {
+    template <typename Table>
+    OSStatus destroy(Table& table, AudioObjectID object, const char* entry) {
+        if (table.erase(object) == 0) {
+            return misuse(entry, std::string(entry) + ": no such object, or destroyed already");
+        }
         journal.push_back(entry);
         return 0;
     }
-    void setRunning(IOProcID proc, bool running, const char* entry) {
-        ioProcs.at(static_cast<AudioObjectID>(proc)).running = running;
+    // A callback of a device, both still there.
+    IOProcRecord* callbackOf(AudioObjectID device, IOProcID proc) {
+        const auto found = ioProcs.find(static_cast<AudioObjectID>(proc));
+        if (found == ioProcs.end() || found->second.device != device ||
+            (!devices.contains(device) &&
+             std::find(deviceIDs.begin(), deviceIDs.end(), device) == deviceIDs.end())) {
+            return nullptr;
+        }
+        return &found->second;
+    }
+    // The journal keeps the call, so a test reading it sees where the order went wrong.
+    OSStatus misuse(const char* entry, std::string_view what) {
         journal.push_back(entry);
+        reportFakeMisuse(what);
+        return hal::kBadObjectError;
     }
 
     std::uint32_t nextID = 500;

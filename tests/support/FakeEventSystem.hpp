@@ -52,13 +52,30 @@ struct FakeEventSystem : EventSystem {
         event->integers[eventField::keyboardKeycode] = keyCode;
         return event;
     }
-    // Nothing uses synthesized mouse or scroll events yet.
-    std::unique_ptr<Event> makeMouseEvent(SourceState, EventType, Point, MouseButton) override {
-        return nullptr;
+    std::unique_ptr<Event> makeMouseEvent(SourceState, EventType type, Point location,
+                                          MouseButton) override {
+        auto event = std::make_unique<FakeEvent>();
+        event->eventType = type;
+        event->point = location;
+        return event;
     }
-    std::unique_ptr<Event> makeScrollEvent(SourceState, ScrollUnit, std::int32_t,
-                                           std::int32_t) override {
-        return nullptr;
+    // The wheels land where the system puts them: pixels in the point deltas, lines in the
+    // line deltas.
+    bool refuseScrollEvents = false;
+    std::unique_ptr<Event> makeScrollEvent(std::optional<SourceState>, ScrollUnit unit,
+                                           std::int32_t vertical,
+                                           std::int32_t horizontal) override {
+        if (refuseScrollEvents) {
+            return nullptr;
+        }
+        auto event = std::make_unique<FakeEvent>();
+        event->eventType = EventType::scrollWheel;
+        const bool pixels = unit == ScrollUnit::pixel;
+        event->integers[pixels ? eventField::scrollPointDeltaAxis1 : eventField::scrollDeltaAxis1] =
+            vertical;
+        event->integers[pixels ? eventField::scrollPointDeltaAxis2 : eventField::scrollDeltaAxis2] =
+            horizontal;
+        return event;
     }
     void post(Location location, Event& event) override {
         posted.push_back({location, dynamic_cast<FakeEvent&>(event)});

@@ -4,16 +4,23 @@
 #include "platform/Platform.hpp"
 #include "portable/InProcessNotificationBus.hpp"
 #include "portable/MemoryPreferences.hpp"
+#include "portable/PortableHashing.hpp"
 #include "support/FakeAccessibility.hpp"
 #include "support/FakeAudioHardware.hpp"
+#include "support/FakeChildProcesses.hpp"
+#include "support/FakeDateFormatting.hpp"
 #include "support/FakeEventMonitors.hpp"
 #include "support/FakeEventSystem.hpp"
+#include "support/FakeHIDEventServices.hpp"
 #include "support/FakeHotKeySystem.hpp"
 #include "support/FakeKeyboardLayout.hpp"
 #include "support/FakeMenuBar.hpp"
+#include "support/FakePasteboard.hpp"
 #include "support/FakePermissionProbe.hpp"
+#include "support/FakePreferenceDomains.hpp"
 #include "support/FakeProcessFacts.hpp"
 #include "support/FakeScreens.hpp"
+#include "support/FakeThumbnails.hpp"
 #include "support/FakeWindowList.hpp"
 #include "support/FakeWorkspace.hpp"
 #include "support/ManualScheduler.hpp"
@@ -40,12 +47,21 @@ struct FakePlatform {
     InputServices input{hotKeys, screens, scheduler};
     FakeKeyboardLayout keyboardLayout;
     FakeWindowList windowList;
+    FakePreferenceDomains preferenceDomains;
+    FakeChildProcesses childProcesses;
+    FakeHIDEventServices hidEventServices;
+    FakePasteboard pasteboard;
+    FakeThumbnails thumbnails;
+    PortableHashing hashing;
+    FakeDateFormatting dateFormatting;
 
     Platform platform() {
-        return {preferences,   scheduler, permissionProbe, workspace,
-                notifications, events,    hotKeys,         accessibility,
-                eventMonitors, screens,   menuBar,         audioHardware,
-                processFacts,  input,     keyboardLayout,  windowList};
+        return {preferences,       scheduler,      permissionProbe,  workspace,
+                notifications,     events,         hotKeys,          accessibility,
+                eventMonitors,     screens,        menuBar,          audioHardware,
+                processFacts,      input,          keyboardLayout,   windowList,
+                preferenceDomains, childProcesses, hidEventServices, pasteboard,
+                thumbnails,        hashing,        dateFormatting};
     }
 };
 

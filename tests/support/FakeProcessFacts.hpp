@@ -13,6 +13,7 @@ struct FakeProcessFacts : PortableProcessFacts {
     std::map<int, std::string> names;
     std::map<std::string, std::string> applications;  // bundle identifier → bundle path
     std::map<std::string, std::string> bundleIDs;     // bundle path → identifier
+    std::map<std::pair<std::string, std::string>, std::string> infoStrings;  // (URL, key) → value
 
     std::optional<std::string> executablePath(int pid) override { return find(executables, pid); }
     std::string processName(int pid) override { return find(names, pid).value_or(""); }
@@ -26,6 +27,10 @@ struct FakeProcessFacts : PortableProcessFacts {
     }
     std::optional<std::string> bundleIdentifier(const std::string& path) override {
         return find(bundleIDs, path);
+    }
+    std::optional<std::string> infoString(const std::string& bundleURL,
+                                          const std::string& key) override {
+        return find(infoStrings, std::pair(bundleURL, key));
     }
 
 private:

@@ -25,6 +25,7 @@ public:
     const ToolIdentity& identity() const override { return identity_; }
     ToolIdentity& mutableIdentity() { return identity_; }
     bool needsSetup() const override { return setupNeeded; }
+    bool opensSettingsWhenTurnedOn() const override { return opensSettings; }
     bool isAvailable() const override { return available; }
     void start() override { journal_.push_back("start:" + identity_.id); }
     void stop() override { journal_.push_back("stop:" + identity_.id); }
@@ -36,6 +37,7 @@ public:
     }
 
     bool setupNeeded = false;
+    bool opensSettings = false;
     bool available = true;
     bool hasControl = false;
     SettingsPage page;

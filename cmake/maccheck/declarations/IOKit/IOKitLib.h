@@ -1,0 +1,48 @@
+#pragma once
+// The IOKit registry calls the macOS layer needs to read a device's properties. Written from
+// Apple's documentation (developer.apple.com/documentation/iokit/<name>); looked up:
+// IOServiceGetMatchingService, IORegistryEntryCreateCFProperty, kIOMainPortDefault.
+#include <CoreFoundation/CoreFoundation.h>
+#include <stdint.h>
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+typedef unsigned int mach_port_t;
+typedef int kern_return_t;
+typedef mach_port_t io_object_t;
+typedef io_object_t io_iterator_t;
+typedef io_object_t io_registry_entry_t;
+typedef io_object_t io_service_t;
+typedef UInt32 IOOptionBits;
+typedef char io_name_t[128];
+#define KERN_SUCCESS 0
+#define kIOReturnSuccess KERN_SUCCESS
+#define MACH_PORT_NULL 0
+#define IO_OBJECT_NULL ((io_object_t)0)
+#define kNilOptions 0
+
+extern const mach_port_t kIOMainPortDefault;
+
+#pragma clang arc_cf_code_audited begin
+CFMutableDictionaryRef IOServiceMatching(const char* name) __attribute__((cf_returns_retained));
+io_service_t IOServiceGetMatchingService(mach_port_t mainPort,
+                                         CFDictionaryRef matching __attribute__((cf_consumed)));
+kern_return_t IOServiceGetMatchingServices(mach_port_t mainPort,
+                                           CFDictionaryRef matching __attribute__((cf_consumed)),
+                                           io_iterator_t* existing);
+io_object_t IOIteratorNext(io_iterator_t iterator);
+CFTypeRef IORegistryEntryCreateCFProperty(io_registry_entry_t entry, CFStringRef key,
+                                          CFAllocatorRef allocator, IOOptionBits options);
+kern_return_t IORegistryEntryCreateCFProperties(io_registry_entry_t entry,
+                                                CFMutableDictionaryRef* properties,
+                                                CFAllocatorRef allocator, IOOptionBits options);
+kern_return_t IORegistryEntrySetCFProperty(io_registry_entry_t entry, CFStringRef propertyName,
+                                           CFTypeRef property);
+#pragma clang arc_cf_code_audited end
+kern_return_t IOObjectRelease(io_object_t object);
+
+#ifdef __cplusplus
+}
+#endif

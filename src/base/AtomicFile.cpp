@@ -1,0 +1,42 @@
+#include "base/AtomicFile.hpp"
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+
+namespace quorvane {
+
+bool writeFileAtomically(const std::filesystem::path& path, std::string_view bytes,
+                         std::string& error) {
+    std::string temporary = path.string() + ".XXXXXX";
+    // mkstemp creates the file 0600 already; fchmod states it for any libc.
+    const int fd = ::mkstemp(temporary.data());
+    if (fd < 0) {
+        error = "cannot write " + path.string() + ": " + std::strerror(errno);
+        return false;
+    }
+    bool ok = ::fchmod(fd, 0600) == 0;
+    while (ok && !bytes.empty()) {
+        const ssize_t written = ::write(fd, bytes.data(), bytes.size());
+        if (written < 0 && errno == EINTR) {
+            continue;
+        }
+        ok = written > 0;
+        bytes.remove_prefix(ok ? static_cast<std::size_t>(written) : 0);
+    }
+    ok = ok && ::fsync(fd) == 0;
+    const int savedErrno = errno;
+    ok = ::close(fd) == 0 && ok;
+    if (!ok || std::rename(temporary.c_str(), path.c_str()) != 0) {
+        error = "cannot write " + path.string() + ": " + std::strerror(ok ? errno : savedErrno);
+        ::unlink(temporary.c_str());
+        return false;
+    }
+    return true;
+}
+
+}  // namespace quorvane

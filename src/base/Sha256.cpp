@@ -1,0 +1,119 @@
+#include "base/Sha256.hpp"
+
+#include <cstring>
+
+namespace quorvane {
+
+namespace {
+
+constexpr std::array<std::uint32_t, 64> kRound = {
+    0x428a2f98, 0x71374491, 0xb5c0fbcf, 0xe9b5dba5, 0x3956c25b, 0x59f111f1, 0x923f82a4, 0xab1c5ed5,
+    0xd807aa98, 0x12835b01, 0x243185be, 0x550c7dc3, 0x72be5d74, 0x80deb1fe, 0x9bdc06a7, 0xc19bf174,
+    0xe49b69c1, 0xefbe4786, 0x0fc19dc6, 0x240ca1cc, 0x2de92c6f, 0x4a7484aa, 0x5cb0a9dc, 0x76f988da,
+    0x983e5152, 0xa831c66d, 0xb00327c8, 0xbf597fc7, 0xc6e00bf3, 0xd5a79147, 0x06ca6351, 0x14292967,
+    0x27b70a85, 0x2e1b2138, 0x4d2c6dfc, 0x53380d13, 0x650a7354, 0x766a0abb, 0x81c2c92e, 0x92722c85,
+    0xa2bfe8a1, 0xa81a664b, 0xc24b8b70, 0xc76c51a3, 0xd192e819, 0xd6990624, 0xf40e3585, 0x106aa070,
+    0x19a4c116, 0x1e376c08, 0x2748774c, 0x34b0bcb5, 0x391c0cb3, 0x4ed8aa4a, 0x5b9cca4f, 0x682e6ff3,
+    0x748f82ee, 0x78a5636f, 0x84c87814, 0x8cc70208, 0x90befffa, 0xa4506ceb, 0xbef9a3f7, 0xc67178f2};
+
+constexpr std::uint32_t rotr(std::uint32_t x, int n) {
+    return (x >> n) | (x << (32 - n));
+}
+
+}  // namespace
+
+void Sha256::compress(const std::uint8_t* block) {
+    std::array<std::uint32_t, 64> w;
+    for (int i = 0; i < 16; ++i) {
+        w[i] = (std::uint32_t{block[4 * i]} << 24) | (std::uint32_t{block[4 * i + 1]} << 16) |
+               (std::uint32_t{block[4 * i + 2]} << 8) | std::uint32_t{block[4 * i + 3]};
+    }
+    for (int i = 16; i < 64; ++i) {
+        const std::uint32_t s0 = rotr(w[i - 15], 7) ^ rotr(w[i - 15], 18) ^ (w[i - 15] >> 3);
+        const std::uint32_t s1 = rotr(w[i - 2], 17) ^ rotr(w[i - 2], 19) ^ (w[i - 2] >> 10);
+        w[i] = w[i - 16] + s0 + w[i - 7] + s1;
+    }
+    auto [a, b, c, d, e, f, g, h] = state_;
+    for (int i = 0; i < 64; ++i) {
+        const std::uint32_t t1 =
+            h + (rotr(e, 6) ^ rotr(e, 11) ^ rotr(e, 25)) + ((e & f) ^ (~e & g)) + kRound[i] + w[i];
+        const std::uint32_t t2 =
+            (rotr(a, 2) ^ rotr(a, 13) ^ rotr(a, 22)) + ((a & b) ^ (a & c) ^ (b & c));
+        h = g;
+        g = f;
+        f = e;
+        e = d + t1;
+        d = c;
+        c = b;
+        b = a;
+        a = t1 + t2;
+    }
+    const std::array<std::uint32_t, 8> add = {a, b, c, d, e, f, g, h};
+    for (int i = 0; i < 8; ++i) {
+        state_[i] += add[i];
+    }
+}
+
+void Sha256::update(std::span<const std::uint8_t> bytes) {
+    length_ += bytes.size();
+    const std::uint8_t* data = bytes.data();
+    std::size_t left = bytes.size();
+    if (buffered_ > 0) {
+        const std::size_t take = std::min(left, buffer_.size() - buffered_);
+        std::memcpy(buffer_.data() + buffered_, data, take);
+        buffered_ += take;
+        data += take;
+        left -= take;
+        if (buffered_ < buffer_.size()) {
+            return;
+        }
+        compress(buffer_.data());
+        buffered_ = 0;
+    }
+    for (; left >= 64; data += 64, left -= 64) {
+        compress(data);
+    }
+    if (left > 0) {
+        std::memcpy(buffer_.data(), data, left);
+        buffered_ = left;
+    }
+}
+
+Sha256::Digest Sha256::finish() {
+    const std::uint64_t bits = length_ * 8;
+    std::array<std::uint8_t, 72> padding{};
+    padding[0] = 0x80;
+    const std::size_t padLength = (buffered_ < 56 ? 56 : 120) - buffered_;
+    update(std::span(padding.data(), padLength));
+    std::array<std::uint8_t, 8> lengthBytes;
+    for (int i = 0; i < 8; ++i) {
+        lengthBytes[i] = static_cast<std::uint8_t>(bits >> (56 - 8 * i));
+    }
+    update(lengthBytes);
+    Digest digest;
+    for (int i = 0; i < 8; ++i) {
+        for (int j = 0; j < 4; ++j) {
+            digest[4 * i + j] = static_cast<std::uint8_t>(state_[i] >> (24 - 8 * j));
+        }
+    }
+    return digest;
+}
+
+Sha256::Digest Sha256::of(std::span<const std::uint8_t> bytes) {
+    Sha256 hash;
+    hash.update(bytes);
+    return hash.finish();
+}
+
+std::string Sha256::hex(const Digest& digest) {
+    static constexpr char digits[] = "0123456789abcdef";
+    std::string text;
+    text.reserve(64);
+    for (const std::uint8_t byte : digest) {
+        text += digits[byte >> 4];
+        text += digits[byte & 0xF];
+    }
+    return text;
+}
+
+}  // namespace quorvane

@@ -1,0 +1,97 @@
+#if !__has_feature(objc_arc)
+#error "Compile with -fobjc-arc"
+#endif
+
+#include "mac/MacPreferenceDomains.hpp"
+
+#include "mac/CFRef.hpp"
+#include "mac/MacFrameworks.h"
+#include "mac/MacPropertyList.hpp"
+#include "mac/MacStrings.hpp"
+
+// CFPreferencesSynchronize, CopyValue, SetValue, CopyKeyList and the scope constants are in the
+// fact sheet. CFArrayGetCount / GetValueAtIndex are written from Apple's reference.
+
+namespace quorvane {
+
+namespace {
+
+// The global domain is passed as the exported constant itself rather than an equal string, so
+// nothing depends on how CFPreferences compares domain names.
+CFRef<CFStringRef> domainName(const std::string& applicationID) {
+    if (applicationID == PreferenceDomains::kAnyApplication) {
+        return CFRef<CFStringRef>::retain(kCFPreferencesAnyApplication);
+    }
+    return makeCFString(applicationID);
+}
+
+CFStringRef hostName(PreferenceHost host) {
+    return host == PreferenceHost::current ? kCFPreferencesCurrentHost : kCFPreferencesAnyHost;
+}
+
+}  // namespace
+
+bool MacPreferenceDomains::synchronize(const std::string& applicationID, PreferenceHost host) {
+    const auto domain = domainName(applicationID);
+    if (!domain) {
+        return false;
+    }
+    return CFPreferencesSynchronize(domain.get(), kCFPreferencesCurrentUser, hostName(host));
+}
+
+std::optional<PreferenceValue> MacPreferenceDomains::copyValue(const std::string& key,
+                                                               const std::string& applicationID,
+                                                               PreferenceHost host) {
+    const auto domain = domainName(applicationID);
+    const auto cfKey = makeCFString(key);
+    if (!domain || !cfKey) {
+        return std::nullopt;
+    }
+    const auto value = CFRef<CFPropertyListRef>::adopt(CFPreferencesCopyValue(
+        cfKey.get(), domain.get(), kCFPreferencesCurrentUser, hostName(host)));
+    if (!value) {
+        return std::nullopt;
+    }
+    return fromPropertyList(value.get());
+}
+
+void MacPreferenceDomains::setValue(const std::string& key,
+                                    const std::optional<PreferenceValue>& value,
+                                    const std::string& applicationID, PreferenceHost host) {
+    const auto domain = domainName(applicationID);
+    const auto cfKey = makeCFString(key);
+    CFRef<CFPropertyListRef> cfValue;
+    if (value) {
+        cfValue = toPropertyList(*value);
+    }
+    // NULL removes the key, so a value that cannot be expressed must not turn into a removal.
+    if (!domain || !cfKey || (value && !cfValue)) {
+        return;
+    }
+    CFPreferencesSetValue(cfKey.get(), cfValue.get(), domain.get(), kCFPreferencesCurrentUser,
+                          hostName(host));
+}
+
+std::vector<std::string> MacPreferenceDomains::copyKeyList(const std::string& applicationID,
+                                                           PreferenceHost host) {
+    std::vector<std::string> keys;
+    const auto domain = domainName(applicationID);
+    if (!domain) {
+        return keys;
+    }
+    const auto list = CFRef<CFArrayRef>::adopt(
+        CFPreferencesCopyKeyList(domain.get(), kCFPreferencesCurrentUser, hostName(host)));
+    if (!list) {
+        return keys;
+    }
+    const CFIndex count = CFArrayGetCount(list.get());
+    for (CFIndex index = 0; index < count; ++index) {
+        const auto key = static_cast<CFStringRef>(CFArrayGetValueAtIndex(list.get(), index));
+        if (key != nullptr && CFGetTypeID(key) == CFStringGetTypeID()) {
+            keys.push_back(utf8String(key));
+        }
+    }
+    return keys;
+}
+
+}  // namespace quorvane

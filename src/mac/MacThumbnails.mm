@@ -1,0 +1,43 @@
+#if !__has_feature(objc_arc)
+#error "Compile with -fobjc-arc"
+#endif
+
+#include "mac/MacThumbnails.hpp"
+
+#include "mac/CFRef.hpp"
+#include "mac/MacFrameworks.h"
+
+namespace quorvane {
+
+std::optional<Thumbnail> MacThumbnails::make(const std::string& path, int maxPixelSize) {
+    @autoreleasepool {
+        // unconfirmed: check on a Mac first (+fileURLWithPath: and -initWithUTF8String: are not
+        // in the fact sheet).
+        NSURL* url = [NSURL fileURLWithPath:[[NSString alloc] initWithUTF8String:path.c_str()]];
+        const auto source = CFRef<CGImageSourceRef>::adopt(
+            CGImageSourceCreateWithURL((__bridge CFURLRef)url, nullptr));
+        if (!source) {
+            return std::nullopt;
+        }
+        NSDictionary* options = @{
+            (__bridge NSString*)kCGImageSourceCreateThumbnailFromImageAlways : @YES,
+            (__bridge NSString*)kCGImageSourceThumbnailMaxPixelSize : @(maxPixelSize),
+        };
+        CGImageRef image =
+            CGImageSourceCreateThumbnailAtIndex(source.get(), 0, (__bridge CFDictionaryRef)options);
+        if (!image) {
+            return std::nullopt;
+        }
+        Thumbnail thumbnail;
+        // unconfirmed: check on a Mac first (CGImageGetWidth and CGImageGetHeight are not in
+        // the fact sheet).
+        thumbnail.width = static_cast<int>(CGImageGetWidth(image));
+        thumbnail.height = static_cast<int>(CGImageGetHeight(image));
+        // The Create reference is handed to the shared pointer, which releases it once.
+        thumbnail.image = std::shared_ptr<const void>(
+            image, [](const void* held) { CFRelease(static_cast<CFTypeRef>(held)); });
+        return thumbnail;
+    }
+}
+
+}  // namespace quorvane

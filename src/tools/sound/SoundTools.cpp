@@ -1,0 +1,24 @@
+#include "tools/sound/SoundTools.hpp"
+
+#include "tools/sound/AppVolumeTool.hpp"
+#include "tools/sound/EqualizerTool.hpp"
+#include "tools/sound/HeadphoneMicTool.hpp"
+#include "tools/sound/MicLockTool.hpp"
+#include "tools/sound/MicMuteTool.hpp"
+#include "tools/sound/OutputLockTool.hpp"
+
+namespace quorvane {
+
+const ToolFactories& soundTools() {
+    static const ToolFactories factories = {
+        {"app-volume", &buildTool<AppVolumeTool>},
+        {"equalizer", &buildTool<EqualizerTool>},
+        {"headphone-mic", &buildTool<HeadphoneMicTool>},
+        {"mic-lock", &buildTool<MicLockTool>},
+        {"mic-mute", &buildTool<MicMuteTool>},
+        {"output-lock", &buildTool<OutputLockTool>},
+    };
+    return factories;
+}
+
+}  // namespace quorvane

@@ -1,0 +1,24 @@
+#include "tools/system/SystemTools.hpp"
+
+#include "tools/system/FitMoreMenuBarIconsTool.hpp"
+#include "tools/system/PreferenceFlipTool.hpp"
+#include "tools/system/ScreenshotSettingsTool.hpp"
+
+namespace quorvane {
+
+const ToolFactories& systemTools() {
+    static const ToolFactories factories = {
+        {"better-finder", &PreferenceFlipTool::build},
+        {"fit-more-menu-bar-icons", &buildTool<FitMoreMenuBarIconsTool>},
+        {"hide-desktop-icons", &PreferenceFlipTool::build},
+        {"hide-menu-icons", &PreferenceFlipTool::build},
+        {"instant-dock", &PreferenceFlipTool::build},
+        {"no-ds-store", &PreferenceFlipTool::build},
+        {"photos-auto-open", &PreferenceFlipTool::build},
+        {"screenshot-settings", &buildTool<ScreenshotSettingsTool>},
+        {"show-hidden-files", &PreferenceFlipTool::build},
+    };
+    return factories;
+}
+
+}  // namespace quorvane

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "app/ToolFactory.hpp"
+
+namespace quorvane {
+
+// The system tools whose behaviour is built, by id; the catalog uses a planned stand-in for the
+// rest.
+const ToolFactories& systemTools();
+
+}  // namespace quorvane
