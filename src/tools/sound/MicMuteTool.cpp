@@ -1,10 +1,14 @@
 #include "tools/sound/MicMuteTool.hpp"
 
 #include <algorithm>
+#include <cstdlib>
+#include <cstring>
 
 #include "audio/AudioCodes.hpp"
 #include "audio/CoreAudio+Helpers.hpp"
+#include "base/Json.hpp"
 #include "input/InputServices.hpp"
+#include "platform/Preferences.hpp"
 
 namespace quorvane {
 
@@ -12,6 +16,20 @@ namespace {
 
 AudioPropertyAddress inputAddress(std::uint32_t selector, std::uint32_t element) {
     return {selector, hal::kScopeInput, element};
+}
+
+// The four bytes of a mute flag or a volume travel as one integer, so they come back exactly.
+std::int64_t bitsOf(const std::vector<std::uint8_t>& bytes) {
+    std::uint32_t bits = 0;
+    std::memcpy(&bits, bytes.data(), std::min(bytes.size(), sizeof bits));
+    return bits;
+}
+
+std::vector<std::uint8_t> bytesOf(std::int64_t value) {
+    const auto bits = static_cast<std::uint32_t>(value);
+    std::vector<std::uint8_t> bytes(sizeof bits);
+    std::memcpy(bytes.data(), &bits, sizeof bits);
+    return bytes;
 }
 
 }  // namespace
@@ -30,6 +48,7 @@ void MicMuteTool::start() {
     if (isActive()) {
         return;
     }
+    restoreBackup();
     // A microphone that connects, or becomes the default, while muted is muted as well.
     for (const std::uint32_t selector : {hal::kDefaultInputDevice, hal::kDevices}) {
         listeners_.push_back(std::make_unique<PropertyListener>(
@@ -56,6 +75,10 @@ void MicMuteTool::stop() {
     }
     lastError_.reset();
     publish();
+}
+
+void MicMuteTool::tidy() {
+    restoreBackup();
 }
 
 void MicMuteTool::toggle() {
@@ -91,15 +114,19 @@ void MicMuteTool::apply() {
                             [&](const AudioDevice& device) { return device.id == entry.first; });
     });
     for (const AudioDevice& device : devices) {
-        muteDevice(device.id, device.name);
+        muteDevice(device);
     }
+    writeBackup();
 }
 
-void MicMuteTool::muteDevice(AudioObjectID device, const std::string& name) {
+void MicMuteTool::muteDevice(const AudioDevice& audioDevice) {
     AudioHardware& hardware = platform_.audioHardware;
+    const AudioObjectID device = audioDevice.id;
+    const std::string& name = audioDevice.name;
     auto known = saved_.find(device);
     if (known == saved_.end()) {
         Saved saved;
+        saved.uid = audioDevice.uid;
         for (const std::uint32_t selector : {hal::kMute, hal::kVolumeScalar}) {
             for (std::uint32_t element = 0; element <= kLastChannel; ++element) {
                 std::vector<std::uint8_t> value(4);
@@ -146,6 +173,70 @@ void MicMuteTool::restore() {
         }
     }
     saved_.clear();
+    platform_.preferences.remove(kBackupKey);
+}
+
+void MicMuteTool::writeBackup() {
+    Json devices = Json::emptyObject();
+    for (const auto& [device, saved] : saved_) {
+        if (saved.uid.empty()) {
+            continue;  // nothing to find it by after a relaunch
+        }
+        Json values = Json::emptyObject();
+        for (const auto& [element, original] : saved.original) {
+            values.set(std::to_string(element), bitsOf(original));
+        }
+        Json entry;
+        entry.set("selector", saved.selector);
+        entry.set("values", std::move(values));
+        devices.set(saved.uid, std::move(entry));
+    }
+    platform_.preferences.set(kBackupKey, devices.serialize());
+}
+
+void MicMuteTool::restoreBackup() {
+    const auto text = platform_.preferences.string(kBackupKey);
+    if (!text) {
+        return;
+    }
+    const auto backup = Json::parse(*text);
+    if (!backup || !backup->object()) {
+        // Kept as it is: nothing here can do better than a person reading it.
+        lastError_ = "Couldn't read the microphone levels saved before muting";
+        return;
+    }
+    Json left = Json::emptyObject();
+    const auto devices = inputDevices(platform_.audioHardware);
+    for (const auto& [uid, entry] : *backup->object()) {
+        const std::string& wanted = uid;
+        const auto present =
+            std::find_if(devices.begin(), devices.end(),
+                         [&wanted](const AudioDevice& device) { return device.uid == wanted; });
+        const Json* selector = entry.find("selector");
+        const Json* values = entry.find("values");
+        if (present == devices.end() || !selector || !selector->integer() || !values ||
+            !values->object()) {
+            left.set(uid, entry);  // put back on a later launch, when it is plugged in
+            continue;
+        }
+        for (const auto& [element, value] : *values->object()) {
+            const auto channel = std::strtoul(element.c_str(), nullptr, 10);
+            if (!value.integer() || channel > kLastChannel) {
+                continue;
+            }
+            const auto bytes = bytesOf(*value.integer());
+            platform_.audioHardware.setPropertyData(
+                present->id,
+                inputAddress(static_cast<std::uint32_t>(*selector->integer()),
+                             static_cast<std::uint32_t>(channel)),
+                static_cast<std::uint32_t>(bytes.size()), bytes.data());
+        }
+    }
+    if (left.object()->empty()) {
+        platform_.preferences.remove(kBackupKey);
+    } else {
+        platform_.preferences.set(kBackupKey, left.serialize());
+    }
 }
 
 SettingsPage MicMuteTool::settingsPage() {

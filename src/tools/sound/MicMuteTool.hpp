@@ -8,6 +8,7 @@
 
 #include "app/Tool.hpp"
 #include "app/ToolDescriptor.hpp"
+#include "audio/AudioDevice.hpp"
 #include "audio/PropertyListener.hpp"
 #include "input/ShortcutSetting.hpp"
 #include "platform/Platform.hpp"
@@ -22,6 +23,9 @@ namespace quorvane {
 class MicMuteTool : public Tool {
 public:
     static constexpr const char* kShortcutKey = "micMute.shortcut";
+    // What muting changed, by device UID, kept until it is put back: a crash or a forced quit
+    // while muted must not leave the microphones silent for good.
+    static constexpr const char* kBackupKey = "micMute.originals";
     static constexpr const char* kMutedImage = "mic.slash.fill";
     static constexpr const char* kUnmutedImage = "mic.fill";
     static constexpr const char* kMutedTitle = "Microphone Muted";
@@ -37,6 +41,8 @@ public:
     bool needsSetup() const override { return !shortcut_.shortcut(); }
     void start() override;
     void stop() override;
+    // After a crash while muted, puts back what the backup holds for devices present now.
+    void tidy() override;
     SettingsPage settingsPage() override;
     std::optional<ToolControl> control() override;
 
@@ -51,12 +57,15 @@ public:
 private:
     // What was changed on one device, to be put back.
     struct Saved {
+        std::string uid;
         std::uint32_t selector = 0;                                   // mute or volume
         std::map<std::uint32_t, std::vector<std::uint8_t>> original;  // by element
     };
     void apply();
-    void muteDevice(AudioObjectID device, const std::string& name);
+    void muteDevice(const AudioDevice& device);
     void restore();
+    void writeBackup();
+    void restoreBackup();
     void showNotice();
 
     const ToolDescriptor& descriptor_;

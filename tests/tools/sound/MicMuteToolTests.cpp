@@ -96,6 +96,45 @@ TEST_F(MicMuteToolTest, WhileMutedNewMicrophonesAndNewDefaultsAreMutedToo) {
     EXPECT_EQ(value<std::uint32_t>(kHeadset, hal::kMute), 1u) << "unmuted: changes are left alone";
 }
 
+TEST_F(MicMuteToolTest, ACrashWhileMutedIsUndoneOnTheNextLaunchByDeviceUID) {
+    tool.start();
+    tool.setMuted(true);
+    ASSERT_TRUE(fakes.preferences.string(MicMuteTool::kBackupKey));
+    // The process dies here: nothing is put back, and the USB mic is unplugged meanwhile.
+    const auto backup = *fakes.preferences.string(MicMuteTool::kBackupKey);
+    FakePlatform relaunched;
+    FakeAudioHardware& after = relaunched.audioHardware;
+    after.addDevice(70, "builtin", "Built-in", hal::kTransportBuiltIn, 1, 1);
+    after.set(70, hal::kMute, std::uint32_t{1}, hal::kScopeInput);
+    relaunched.preferences.set(MicMuteTool::kBackupKey, backup);
+    MicMuteTool again{descriptor, relaunched.platform()};
+    again.tidy();
+    std::uint32_t mute = 9;
+    std::uint32_t size = 4;
+    after.getPropertyData(70, {hal::kMute, hal::kScopeInput, 0}, size, &mute);
+    EXPECT_EQ(mute, 0u) << "found by its UID under a new id";
+    ASSERT_TRUE(relaunched.preferences.string(MicMuteTool::kBackupKey)) << "the USB mic's is kept";
+
+    after.addDevice(71, "usb", "USB Mic", hal::kTransportUSB, 0, 1);
+    auto& volume = after.data[{71, {hal::kVolumeScalar, hal::kScopeInput, 2}}];
+    volume.assign(4, 0);
+    again.start();
+    float restored = 0;
+    after.getPropertyData(71, {hal::kVolumeScalar, hal::kScopeInput, 2}, size, &restored);
+    EXPECT_EQ(restored, 0.6f) << "exactly what was there";
+    EXPECT_FALSE(relaunched.preferences.string(MicMuteTool::kBackupKey));
+
+    tool.setMuted(false);
+    EXPECT_FALSE(fakes.preferences.string(MicMuteTool::kBackupKey)) << "unmuting drops it";
+
+    relaunched.preferences.set(MicMuteTool::kBackupKey, "{\"usb\": ");
+    MicMuteTool damaged{descriptor, relaunched.platform()};
+    damaged.tidy();
+    EXPECT_TRUE(damaged.lastError());
+    EXPECT_EQ(relaunched.preferences.string(MicMuteTool::kBackupKey), "{\"usb\": ")
+        << "a damaged backup is left for a person, not overwritten";
+}
+
 TEST_F(MicMuteToolTest, AMicrophoneThatCannotBeMutedIsNamedAndTheOthersAreStillMuted) {
     hal.addDevice(kWebcam, "webcam", "Webcam", hal::kTransportUSB, 0, 1);
     tool.start();
