@@ -44,7 +44,8 @@ AppAudioTap::AppAudioTap(AudioHardware& hardware, const EqualizerEngine& engine,
       outputDevice_(outputDevice),
       isGlobal_(kind == Kind::global),
       realTime_(std::make_shared<RealTime>(gain)),
-      isRunning_(running) {
+      isRunning_(running),
+      self_(std::make_shared<AppAudioTap*>(this)) {
     try {
         setUp(engine);
     } catch (...) {
@@ -108,7 +109,7 @@ void AppAudioTap::setUp(const EqualizerEngine& engine) {
           "Creating the audio callback");
     ioProcID_ = procID;
     if (isRunning_) {
-        check(hardware_.startDevice(aggregateID_, procID), "Starting audio");
+        start(procID);
     }
 }
 
@@ -129,12 +130,29 @@ void AppAudioTap::tearDown() noexcept {
     ioProcID_.reset();
 }
 
+void AppAudioTap::start(AudioHardware::IOProcID procID) {
+    std::weak_ptr<AppAudioTap*> self = self_;
+    check(hardware_.startDevice(aggregateID_, procID,
+                                [self](OSStatus status) {
+                                    const auto tap = self.lock();
+                                    if (!tap) {
+                                        return;
+                                    }
+                                    (*tap)->isRunning_ = false;
+                                    if ((*tap)->onLateStartFailure) {
+                                        (*tap)->onLateStartFailure(
+                                            CoreAudioError(status, "Starting audio"));
+                                    }
+                                }),
+          "Starting audio");
+}
+
 void AppAudioTap::setRunning(bool running) {
     if (running == isRunning_ || !ioProcID_) {
         return;
     }
     if (running) {
-        check(hardware_.startDevice(aggregateID_, *ioProcID_), "Starting audio");
+        start(*ioProcID_);
     } else {
         hardware_.stopDevice(aggregateID_, *ioProcID_);
     }

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <vector>
 
+#include "audio/CoreAudioError.hpp"
 #include "audio/EqualizerState.hpp"
 #include "audio/GainControl.hpp"
 #include "audio/TapRenderContext.hpp"
@@ -64,12 +66,16 @@ public:
     // Starts or stops the aggregate device without rebuilding anything. Throws CoreAudioError
     // when starting fails; the tap then stays stopped.
     void setRunning(bool running);
+    // A start the platform carried out after answering, which failed: the tap is stopped by
+    // then. Runs on the main thread, never after the tap is destroyed.
+    std::function<void(const CoreAudioError&)> onLateStartFailure;
     // Counts this app tap's processes as tapped until the tap is destroyed.
     void registerTappedProcesses(TappedProcessCounts& counts, Scheduler& scheduler,
                                  NotificationBus& notifications);
 
 private:
     void setUp(const EqualizerEngine& engine);
+    void start(AudioHardware::IOProcID procID);
     void tearDown() noexcept;
     static void render(void* context, std::span<const AudioBufferView> input,
                        std::span<AudioBufferView> output);
@@ -91,6 +97,8 @@ private:
     AudioObjectID aggregateID_ = 0;
     std::optional<AudioHardware::IOProcID> ioProcID_;
     bool isRunning_;
+    // Reached by a late start failure only while this tap exists.
+    std::shared_ptr<AppAudioTap*> self_;
 
     struct Registration {
         TappedProcessCounts& counts;

@@ -39,7 +39,8 @@ public:
     OSStatus createIOProcID(AudioObjectID device, IOProc proc, std::shared_ptr<void> clientData,
                             IOProcID& outProcID) override;
     OSStatus destroyIOProcID(AudioObjectID device, IOProcID proc) override;
-    OSStatus startDevice(AudioObjectID device, IOProcID proc) override;
+    OSStatus startDevice(AudioObjectID device, IOProcID proc,
+                         std::function<void(OSStatus)> failedLater) override;
     OSStatus stopDevice(AudioObjectID device, IOProcID proc) override;
 
 private:

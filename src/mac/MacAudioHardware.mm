@@ -7,7 +7,9 @@
 #include <cassert>
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <map>
+#include <memory>
 #include <span>
 #include <utility>
 
@@ -16,6 +18,7 @@
 #include "mac/MacFrameworks.h"
 #include "mac/MacPropertyList.hpp"
 #include "mac/MacStrings.hpp"
+#include "mac/MacViews.hpp"
 
 namespace quorvane {
 
@@ -256,10 +259,17 @@ OSStatus MacAudioHardware::destroyIOProcID(AudioObjectID device, IOProcID proc) 
 
 // unconfirmed: check on a Mac first. With "tapautostart" set, AudioDeviceStart on an aggregate
 // device is believed to wait until its tap delivers audio; it runs on the control queue so the
-// main thread never waits with it. A failure there cannot be answered to the caller any more.
-OSStatus MacAudioHardware::startDevice(AudioObjectID device, IOProcID proc) {
+// main thread never waits with it. A failure there goes back to the main thread.
+OSStatus MacAudioHardware::startDevice(AudioObjectID device, IOProcID proc,
+                                       std::function<void(OSStatus)> failedLater) {
+    auto report = std::make_shared<std::function<void(OSStatus)>>(std::move(failedLater));
     dispatch_async(registrations_->control, ^{
-      AudioDeviceStart(device, reinterpret_cast<AudioDeviceIOProcID>(proc));
+      const OSStatus status = AudioDeviceStart(device, reinterpret_cast<AudioDeviceIOProcID>(proc));
+      if (status != noErr && *report) {
+          runSoon(^{
+            (*report)(status);
+          });
+      }
     });
     return noErr;
 }

@@ -78,8 +78,10 @@ public:
     // AudioDeviceStart / AudioDeviceStop. Neither may block the main thread: starting an
     // aggregate device whose tap waits for audio can take long, so an implementation may carry
     // out starting, stopping and the destruction of procedures, aggregate devices and taps
-    // later, in the order they were asked for, and answer success for the request.
-    virtual OSStatus startDevice(AudioObjectID device, IOProcID proc) = 0;
+    // later, in the order they were asked for, and answer success for the request. A start
+    // carried out later that fails calls `failedLater` with its status on the main thread.
+    virtual OSStatus startDevice(AudioObjectID device, IOProcID proc,
+                                 std::function<void(OSStatus)> failedLater) = 0;
     virtual OSStatus stopDevice(AudioObjectID device, IOProcID proc) = 0;
 };
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include "audio/AudioCodes.hpp"
 #include "platform/AudioHardware.hpp"
 
@@ -47,7 +48,9 @@ public:
         return kStatus;
     }
     OSStatus destroyIOProcID(AudioObjectID, IOProcID) override { return kStatus; }
-    OSStatus startDevice(AudioObjectID, IOProcID) override { return kStatus; }
+    OSStatus startDevice(AudioObjectID, IOProcID, std::function<void(OSStatus)>) override {
+        return kStatus;
+    }
     OSStatus stopDevice(AudioObjectID, IOProcID) override { return kStatus; }
 };
 

@@ -119,6 +119,20 @@ TEST_F(AppAudioTapTest, TheCallbackRendersTheTapsBuffersAndRunningTogglesWithout
     EXPECT_THROW(tap->setRunning(true), CoreAudioError);
     EXPECT_FALSE(tap->isRunning());
 
+    // A start that fails after the platform answered stops the tap and says so; once the tap
+    // is gone, such a report reaches nothing.
+    hal.failures.clear();
+    hal.lateStartFailures.clear();
+    tap->setRunning(true);
+    std::string reported;
+    tap->onLateStartFailure = [&](const CoreAudioError& error) { reported = error.description(); };
+    hal.failStartsLater(-10851);
+    EXPECT_EQ(reported, "Starting audio failed (OSStatus -10851)");
+    EXPECT_FALSE(tap->isRunning());
+    tap->setRunning(true);
+    tap.reset();
+    hal.failStartsLater(-10851);
+
     // A tap that delivers one buffer per channel: they are the last two of the input.
     hal.tapFormat.formatFlags |= hal::kFormatFlagIsNonInterleaved;
     hal.failures.clear();

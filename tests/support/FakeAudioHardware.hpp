@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <functional>
 #include <map>
 #include <memory>
 #include <string>
@@ -208,11 +209,13 @@ public:
         }
         return destroy(ioProcs, static_cast<AudioObjectID>(proc), "destroy callback");
     }
-    OSStatus startDevice(AudioObjectID device, IOProcID proc) override {
+    OSStatus startDevice(AudioObjectID device, IOProcID proc,
+                         std::function<void(OSStatus)> failedLater) override {
         IOProcRecord* record = callbackOf(device, proc);
         if (!record) {
             return misuse("start", "started a callback that, or whose device, does not exist");
         }
+        lateStartFailures.push_back(std::move(failedLater));
         return act(Call::start, 0, 0, [&] {
             record->running = true;
             journal.push_back("start");
@@ -239,6 +242,16 @@ public:
     std::map<AudioObjectID, PreferenceValue::Dictionary> devices;
     std::map<AudioObjectID, IOProcRecord> ioProcs;
     std::vector<std::string> journal;
+    // What each start was given to report a failure found after it answered.
+    std::vector<std::function<void(OSStatus)>> lateStartFailures;
+    // The starts carried out later all fail, as a device that went away would make them.
+    void failStartsLater(OSStatus status) {
+        for (auto& failed : std::exchange(lateStartFailures, {})) {
+            if (failed) {
+                failed(status);
+            }
+        }
+    }
     // What every new tap reports: stereo, interleaved 32-bit float.
     AudioStreamFormat tapFormat{48000, hal::fourCharCode("lpcm"), 0x9, 8, 1, 8, 2, 32, 0};
 

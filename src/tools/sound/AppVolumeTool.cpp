@@ -116,7 +116,8 @@ void AppVolumeTool::start() {
     // Before the monitor, whose first list already runs syncTaps.
     outputListener_ =
         std::make_unique<OutputDeviceWatch>(platform_.audioHardware, [this] { outputChanged(); });
-    panel_ = std::make_unique<MenuBarPanel>(platform_.menuBar, panelContent_, kSquareItemLength);
+    panel_ = std::make_unique<MenuBarPanel>(platform_.menuBar, platform_.scheduler, panelContent_,
+                                            kSquareItemLength);
     panel_->statusItem().setImage(kItemImage, kItemDescription);
     panel_->onClose = [this] { list_.setPointerInside(false); };
     monitor_.onChange = [this] {
@@ -211,6 +212,10 @@ void AppVolumeTool::syncTaps() {
                                               need.app->processObjects, device, tapGain, need.run);
             tap->registerTappedProcesses(tappedProcesses_, platform_.scheduler,
                                          platform_.notifications);
+            tap->onLateStartFailure = [this, name = need.app->name](const CoreAudioError& error) {
+                lastError_ = kErrorPrefix + name + ": " + error.description();
+                publish();
+            };
             taps_.emplace(id, std::move(tap));
         } catch (const CoreAudioError& error) {
             lastError_ = kErrorPrefix + need.app->name + ": " + error.description();

@@ -216,6 +216,10 @@ void EqualizerTool::upkeep() {
             tap_->setRunning(shouldRun);
         } else {
             tap_ = AppAudioTap::global(hardware, engine_, std::move(excluded), device, shouldRun);
+            tap_->onLateStartFailure = [this](const CoreAudioError& error) {
+                lastError_ = kErrorPrefix + error.description();
+                publish();
+            };
         }
         lastError_.reset();
     } catch (const CoreAudioError& error) {

@@ -137,6 +137,11 @@ TEST_F(EqualizerToolTest, AFailureIsShownUntilTheTapCanBeBuiltAndStoppingUndoesE
     tool->setGain(9, 3);
     EXPECT_TRUE(tool->tap());
     EXPECT_FALSE(tool->lastError());
+    play(true);
+    hal.failStartsLater(-10851);  // the platform started the device after answering
+    EXPECT_EQ(tool->lastError(),
+              "The equalizer couldn't start: Starting audio failed (OSStatus -10851)");
+    EXPECT_FALSE(tool->tap()->isRunning());
 
     tool->stop();
     tool->stop();
