@@ -21,9 +21,27 @@ AppLifecycle::AppLifecycle(const Platform& platform, Shell shell, ToolFactory ma
 AppLifecycle::~AppLifecycle() = default;
 
 void AppLifecycle::didFinishLaunching() {
-    if (registry_) {
+    if (registry_ || waitForPredecessor_) {
         return;
     }
+    const auto predecessor = shell_.instance.predecessor();
+    if (!predecessor || !shell_.instance.isRunning(*predecessor)) {
+        start();
+        return;
+    }
+    const Seconds since = platform_.scheduler.now();
+    waitForPredecessor_ =
+        platform_.scheduler.every(kPredecessorPoll, [this, since, pid = *predecessor] {
+            if (shell_.instance.isRunning(pid) &&
+                platform_.scheduler.now() - since < kPredecessorPatience) {
+                return;
+            }
+            waitForPredecessor_.cancel();
+            start();
+        });
+}
+
+void AppLifecycle::start() {
     // The permissions are read once before any tool exists, so the first reconcile already
     // knows what may run.
     permissions_ = std::make_unique<PermissionCenter>(platform_.permissionProbe,
@@ -46,7 +64,8 @@ void AppLifecycle::didFinishLaunching() {
     firstRun_ = std::make_unique<FirstRunModel>(*registry_, *cardActions_, platform_.preferences);
     firstRun_->onFinish = [this] { shell_.windows.closeFirstRun(); };
 
-    menuPanel_ = std::make_unique<MenuBarPanel>(platform_.menuBar, PanelContent{menu_.get()});
+    menuPanel_ = std::make_unique<MenuBarPanel>(platform_.menuBar, platform_.scheduler,
+                                                PanelContent{menu_.get()});
     menuPanel_->statusItem().setImage(kMenuImage, kMenuDescription);
 
     if (FirstRunModel::isNeeded(platform_.preferences)) {

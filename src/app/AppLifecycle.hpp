@@ -7,6 +7,8 @@
 #include "app/Tool.hpp"
 #include "base/Subscription.hpp"
 #include "platform/Platform.hpp"
+#include "platform/Scheduler.hpp"
+#include "platform/Timer.hpp"
 
 namespace quorvane {
 
@@ -30,6 +32,8 @@ public:
     using ToolFactory = std::function<std::vector<std::unique_ptr<Tool>>(const Platform&)>;
     static constexpr const char* kMenuImage = "switch.2";
     static constexpr const char* kMenuDescription = "Quorvane";
+    static constexpr Seconds kPredecessorPoll{0.1};
+    static constexpr Seconds kPredecessorPatience{10.0};
 
     // What the application itself offers besides the tools' ports.
     struct Shell {
@@ -43,7 +47,9 @@ public:
     AppLifecycle(const AppLifecycle&) = delete;
     AppLifecycle& operator=(const AppLifecycle&) = delete;
 
-    // The permission centre, the tools, the registry with its two callbacks, the first
+    // After a restart, waiting until the replaced instance has quit (so there is never a
+    // moment with two status items or two owners of one hot key), at most kPredecessorPatience:
+    // the permission centre, the tools, the registry with its two callbacks, the first
     // reconcile; then the menu-bar item, and the welcome on a first launch.
     void didFinishLaunching();
     // Stops every running tool, in registry order.
@@ -63,9 +69,12 @@ public:
     MenuBarPanel* menuPanel() const { return menuPanel_.get(); }
 
 private:
+    void start();
+
     Platform platform_;
     Shell shell_;
     ToolFactory makeTools_;
+    Timer waitForPredecessor_;
     // Declared in construction order, so each is destroyed before what it refers to.
     std::unique_ptr<PermissionCenter> permissions_;
     std::unique_ptr<ToolRegistry> registry_;

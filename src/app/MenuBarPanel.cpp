@@ -1,9 +1,13 @@
 #include "app/MenuBarPanel.hpp"
 
+#include <utility>
+
 namespace quorvane {
 
-MenuBarPanel::MenuBarPanel(MenuBar& menuBar, const PanelContent& content, double length)
+MenuBarPanel::MenuBarPanel(MenuBar& menuBar, Scheduler& scheduler, const PanelContent& content,
+                           double length)
     : menuBar_(menuBar),
+      scheduler_(scheduler),
       statusItem_(menuBar.makeStatusItem(length)),
       popover_(menuBar.makePopover(content, MenuBar::PopoverBehavior::transient)) {
     if (statusItem_->hasButton()) {
@@ -24,7 +28,11 @@ MenuBarPanel::~MenuBarPanel() {
 
 void MenuBarPanel::toggle() {
     if (popover_->isShown()) {
-        popover_->performClose();
+        close();
+        return;
+    }
+    const auto closedAt = std::exchange(closedBySystemAt_, std::nullopt);
+    if (closedAt && scheduler_.now() - *closedAt < kReopenGuard) {
         return;
     }
     if (!statusItem_->hasButton()) {
@@ -36,17 +44,21 @@ void MenuBarPanel::toggle() {
     // An accessory app is not active on its own; without this the popover gets no keys.
     menuBar_.activateApplication();
     popover_->show(*statusItem_);
-    outsideClickMonitor_ =
-        menuBar_.addGlobalMonitor(kOutsideClickMask, [this] { popover_->performClose(); });
+    outsideClickMonitor_ = menuBar_.addGlobalMonitor(kOutsideClickMask, [this] { close(); });
 }
 
 void MenuBarPanel::close() {
     if (popover_->isShown()) {
+        closingOnRequest_ = true;
         popover_->performClose();
+        closingOnRequest_ = false;
     }
 }
 
 void MenuBarPanel::didClose() {
+    if (!closingOnRequest_) {
+        closedBySystemAt_ = scheduler_.now();
+    }
     // Every way of closing ends here, so the monitor lives exactly while the popover shows.
     outsideClickMonitor_.cancel();
     if (onClose) {

@@ -3,9 +3,11 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 
 #include "base/Subscription.hpp"
 #include "platform/MenuBar.hpp"
+#include "platform/Scheduler.hpp"
 
 namespace quorvane {
 
@@ -18,8 +20,12 @@ class MenuBarPanel {
 public:
     // Left, right and other mouse-down (event types 1, 3 and 25).
     static constexpr std::uint64_t kOutsideClickMask = 0x200000A;
+    // The system closes a transient popover on the mouse-down of a click on its own item, and
+    // the item's action follows on the mouse-up: an action this soon after such a close
+    // belongs to that click, which meant "close", not "open again".
+    static constexpr Seconds kReopenGuard{0.5};
 
-    MenuBarPanel(MenuBar& menuBar, const PanelContent& content,
+    MenuBarPanel(MenuBar& menuBar, Scheduler& scheduler, const PanelContent& content,
                  double length = MenuBar::kVariableLength);
     ~MenuBarPanel();
     MenuBarPanel(const MenuBarPanel&) = delete;
@@ -40,6 +46,10 @@ private:
     void didClose();
 
     MenuBar& menuBar_;
+    Scheduler& scheduler_;
+    // When the system last closed the popover by itself; closes asked for here do not count.
+    std::optional<Seconds> closedBySystemAt_;
+    bool closingOnRequest_ = false;
     std::unique_ptr<StatusItem> statusItem_;
     std::unique_ptr<Popover> popover_;
     Subscription closeToken_;

@@ -139,6 +139,22 @@ std::optional<std::size_t> ToolRegistry::indexOfTool(std::string_view id) const 
     return std::nullopt;
 }
 
+std::vector<Permission> ToolRegistry::permissionsNeeded(
+    const std::function<bool(const Tool&)>& counts) const {
+    std::vector<Permission> needed;
+    for (const auto permission : kAllPermissions) {
+        const bool used = std::any_of(tools_.begin(), tools_.end(), [&](const auto& tool) {
+            const auto& required = tool->requiredPermissions();
+            return tool->isAvailable() && counts(*tool) &&
+                   std::find(required.begin(), required.end(), permission) != required.end();
+        });
+        if (used) {
+            needed.push_back(permission);
+        }
+    }
+    return needed;
+}
+
 Tool* ToolRegistry::tool(std::string_view id) const {
     const auto index = indexOfTool(id);
     return index ? tools_[*index].get() : nullptr;

@@ -53,6 +53,9 @@ public:
     void setInControls(bool on, Tool& tool);
     std::optional<std::size_t> indexOfTool(std::string_view id) const;
     Tool* tool(std::string_view id) const;
+    // What the available tools that `counts` accepts need, each permission once and in the
+    // permission centre's order: Quorvane asks only for what a usable tool would use.
+    std::vector<Permission> permissionsNeeded(const std::function<bool(const Tool&)>& counts) const;
 
     // True when every word matches the tool's search text (name, summary, category title and
     // keywords), case folded. A word also matches through its stem: "snapping" finds "snap".

@@ -4,9 +4,15 @@
 
 #include "mac/MacAppInstance.hpp"
 
+#include <signal.h>
+#include <unistd.h>
+
+#include <cerrno>
 #include <memory>
 #include <utility>
+#include <vector>
 
+#include "app/RestartArguments.hpp"
 #include "mac/CancellableAction.hpp"
 #include "mac/MacFrameworks.h"
 #include "mac/MacStrings.hpp"
@@ -34,6 +40,11 @@ Subscription MacAppInstance::launchNewInstance(std::function<void(const std::str
     // handler runs on a concurrent queue, hence the hop to the main loop.
     NSWorkspaceOpenConfiguration* configuration = [NSWorkspaceOpenConfiguration configuration];
     configuration.createsNewApplicationInstance = YES;
+    NSMutableArray<NSString*>* arguments = [NSMutableArray array];
+    for (const auto& argument : restartArguments(getpid())) {
+        [arguments addObject:makeNSString(argument)];
+    }
+    configuration.arguments = arguments;
     NSURL* bundle = [NSBundle mainBundle].bundleURL;
     [[NSWorkspace sharedWorkspace]
         openApplicationAtURL:bundle
@@ -48,6 +59,19 @@ Subscription MacAppInstance::launchNewInstance(std::function<void(const std::str
              });
            }];
     return Subscription([launch] { launch->cancelled = true; });
+}
+
+std::optional<int> MacAppInstance::predecessor() const {
+    std::vector<std::string> arguments;
+    for (NSString* argument in [NSProcessInfo processInfo].arguments) {
+        arguments.push_back(utf8String(argument));
+    }
+    return replacedProcessID(arguments);
+}
+
+bool MacAppInstance::isRunning(int processID) const {
+    // Signal 0 only asks whether the process exists; EPERM means it does, under another user.
+    return kill(processID, 0) == 0 || errno == EPERM;
 }
 
 }  // namespace quorvane

@@ -26,6 +26,7 @@ constexpr CGFloat kWidth = 520;
 @implementation QVFirstRunWindowController {
     Model* _model;
     quorvane::Subscription _changes;
+    NSTextField* _permissionsIntro;
     NSStackView* _cards;
     NSStackView* _suggestions;
     NSMutableArray* _targets;
@@ -60,13 +61,15 @@ constexpr CGFloat kWidth = 520;
     NSStackView* content = quorvane::makeColumn(14);
     [content addArrangedSubview:quorvane::makeHeading(Model::kTitle, 22)];
     [content addArrangedSubview:quorvane::makeWrappingLabel(Model::kIntro, kWidth)];
-    [content addArrangedSubview:quorvane::makeHeading(Model::kPermissionsTitle, 15)];
-    [content addArrangedSubview:quorvane::makeSecondaryLabel(Model::kPermissionsIntro, kWidth)];
-    _cards = quorvane::makeColumn(12);
-    [content addArrangedSubview:_cards];
+    // The permissions follow the picks, since only the picked tools' are asked for.
     [content addArrangedSubview:quorvane::makeHeading(Model::kPickTitle, 15)];
     _suggestions = quorvane::makeColumn(10);
     [content addArrangedSubview:_suggestions];
+    [content addArrangedSubview:quorvane::makeHeading(Model::kPermissionsTitle, 15)];
+    _permissionsIntro = quorvane::makeSecondaryLabel(model.permissionsIntro(), kWidth);
+    [content addArrangedSubview:_permissionsIntro];
+    _cards = quorvane::makeColumn(12);
+    [content addArrangedSubview:_cards];
 
     NSButton* finish = [NSButton buttonWithTitle:quorvane::text(Model::kFinishTitle)
                                           target:nil
@@ -95,6 +98,7 @@ constexpr CGFloat kWidth = 520;
 }
 
 - (void)refresh {
+    _permissionsIntro.stringValue = quorvane::text(_model->permissionsIntro());
     quorvane::fillPermissionCards(_cards, _model->cards(), _model->cardNotice(), _performCard,
                                   _cardTargets, kWidth);
     quorvane::removeArrangedViews(_suggestions);

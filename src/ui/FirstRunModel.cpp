@@ -21,11 +21,20 @@ bool FirstRunModel::isNeeded(const Preferences& preferences) {
 }
 
 std::vector<PermissionCard> FirstRunModel::cards() const {
+    const auto needed = registry_.permissionsNeeded(
+        [this](const Tool& tool) { return picked_.contains(tool.id()); });
     std::vector<PermissionCard> cards;
-    for (const auto permission : kAllPermissions) {
+    for (const auto permission : needed) {
         cards.push_back(PermissionCard::make(permission, registry_.permissions()));
     }
     return cards;
+}
+
+std::string_view FirstRunModel::permissionsIntro() const {
+    if (picked_.empty()) {
+        return kPermissionsOnPicking;
+    }
+    return cards().empty() ? kNoPermissionsNeeded : kPermissionsIntro;
 }
 
 const std::string& FirstRunModel::cardNotice() const {

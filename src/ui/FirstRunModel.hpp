@@ -29,8 +29,11 @@ public:
         "mind any time in Settings.";
     static constexpr const char* kPermissionsTitle = "Permissions";
     static constexpr const char* kPermissionsIntro =
-        "Some tools need macOS to allow them first. You can do this now or when you switch such "
-        "a tool on.";
+        "Some of the tools you picked need macOS to allow them first. You can do this now or "
+        "when you switch such a tool on.";
+    static constexpr const char* kPermissionsOnPicking =
+        "A tool that needs macOS to allow it first shows what to do here once you pick it.";
+    static constexpr const char* kNoPermissionsNeeded = "The tools you picked need no permission.";
     static constexpr const char* kPickTitle = "Start with a few tools";
     static constexpr const char* kNothingToPick =
         "You'll find every tool in Settings, ready to switch on.";
@@ -55,7 +58,9 @@ public:
     // Only a stored true counts as done, so a damaged value shows the welcome again.
     static bool isNeeded(const Preferences& preferences);
 
+    // Only what the picked tools need, so nobody grants a permission for a tool left off.
     std::vector<PermissionCard> cards() const;
+    std::string_view permissionsIntro() const;
     const std::string& cardNotice() const;
     void performCardAction(Permission permission, PermissionCard::Action action);
 

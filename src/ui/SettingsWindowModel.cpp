@@ -154,11 +154,12 @@ const Observable* SettingsWindowModel::pageSource() const {
 }
 
 std::vector<PermissionCard> SettingsWindowModel::cards() const {
-    const Tool* tool = selectedTool();
+    const Tool* selected = selectedTool();
+    // A tool that cannot run here asks for nothing; General lists what any usable tool needs.
+    const auto needed = registry_.permissionsNeeded(
+        [selected](const Tool& tool) { return selected == nullptr || selected == &tool; });
     std::vector<PermissionCard> cards;
-    for (const auto permission :
-         tool ? tool->requiredPermissions()
-              : std::vector<Permission>(kAllPermissions.begin(), kAllPermissions.end())) {
+    for (const auto permission : needed) {
         cards.push_back(PermissionCard::make(permission, registry_.permissions()));
     }
     return cards;

@@ -4,6 +4,7 @@
 
 #include "app/MenuBarPanel.hpp"
 #include "app/PermissionCenter.hpp"
+#include "app/RestartArguments.hpp"
 #include "support/LaunchedApp.hpp"
 
 namespace quorvane {
@@ -43,6 +44,51 @@ TEST(AppLifecycle, StartsUpInOrderAndShowsTheWelcomeOnlyOnTheFirstLaunch) {
     again.fakes.preferences.set(FirstRunModel::kDoneKey, true);
     again.launch();
     EXPECT_EQ(again.fakes.calls, (Calls{"item"}));
+}
+
+TEST(AppLifecycle, ARestartedInstanceStartsOnlyOnceTheOneItReplacesHasQuit) {
+    EXPECT_EQ(replacedProcessID({"Quorvane", "--replacing", "812"}), 812);
+    for (const auto& arguments :
+         std::vector<std::vector<std::string>>{{"Quorvane"},
+                                               {"Quorvane", "--replacing"},
+                                               {"Quorvane", "--replacing", "81x"},
+                                               {"Quorvane", "--replacing", "-3"},
+                                               {"Quorvane", "-psn_0_1234"}}) {
+        EXPECT_EQ(replacedProcessID(arguments), std::nullopt) << arguments.back();
+    }
+    EXPECT_EQ(replacedProcessID(restartArguments(77)), 77);
+
+    LaunchedApp launched;
+    launched.add("alpha");
+    launched.fakes.preferences.set("tool.alpha.enabled", true);
+    launched.fakes.preferences.set(FirstRunModel::kDoneKey, true);
+    launched.shell.replaced = 812;
+    launched.shell.running = {812};
+    launched.launch();
+    launched.fakes.scheduler.advance(AppLifecycle::kPredecessorPoll * 5);
+    EXPECT_TRUE(launched.fakes.calls.empty()) << "no status item, hot key or tap while it runs";
+    EXPECT_EQ(launched.app->registry(), nullptr);
+
+    launched.shell.running.clear();
+    launched.fakes.scheduler.advance(AppLifecycle::kPredecessorPoll);
+    EXPECT_EQ(launched.fakes.calls, (Calls{"start:alpha", "item"}));
+    launched.fakes.scheduler.advance(AppLifecycle::kPredecessorPatience);
+    EXPECT_EQ(launched.fakes.calls.size(), 2u) << "started once";
+
+    LaunchedApp stuck;
+    stuck.fakes.preferences.set(FirstRunModel::kDoneKey, true);
+    stuck.shell.replaced = 812;
+    stuck.shell.running = {812};
+    stuck.launch();
+    stuck.fakes.scheduler.advance(AppLifecycle::kPredecessorPatience +
+                                  AppLifecycle::kPredecessorPoll);
+    EXPECT_EQ(stuck.fakes.calls, (Calls{"item"})) << "a hung predecessor delays, never blocks";
+
+    LaunchedApp gone;
+    gone.fakes.preferences.set(FirstRunModel::kDoneKey, true);
+    gone.shell.replaced = 812;
+    gone.launch();
+    EXPECT_EQ(gone.fakes.calls, (Calls{"item"})) << "already gone: starts at once";
 }
 
 TEST(AppLifecycle, APermissionChangeReconcilesAndASetupNeedOpensTheToolsPage) {

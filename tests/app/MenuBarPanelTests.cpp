@@ -12,7 +12,8 @@ using Calls = std::vector<std::string>;
 struct Panel {
     FakePlatform fakes;
     std::unique_ptr<MenuBarPanel> panel = std::make_unique<MenuBarPanel>(
-        fakes.menuBar, PanelContent{PanelContent::Page{[] { return SettingsPage{}; }}});
+        fakes.menuBar, fakes.scheduler,
+        PanelContent{PanelContent::Page{[] { return SettingsPage{}; }}});
     int opened = 0;
     int closed = 0;
 
@@ -65,12 +66,36 @@ TEST(MenuBarPanel, EveryWayOfClosingRemovesTheMonitorAndCallsBackOnce) {
     p.fakes.menuBar.popovers.front()->dismiss();  // Escape
     EXPECT_TRUE(p.fakes.menuBar.monitors.empty());
 
+    p.fakes.scheduler.advance(MenuBarPanel::kReopenGuard);
     p.fakes.menuBar.click();
     p.panel->close();
     p.panel->close();
     EXPECT_EQ(p.opened, 2);
     EXPECT_EQ(p.closed, 2);
     EXPECT_TRUE(p.fakes.menuBar.monitors.empty());
+}
+
+TEST(MenuBarPanel, AClickOnTheItemThatClosedTheTransientPopoverDoesNotReopenIt) {
+    Panel p;
+    p.fakes.menuBar.click();
+    // The system closes the popover on the mouse-down; the item's action follows on mouse-up.
+    p.fakes.menuBar.popovers.front()->dismiss();
+    p.fakes.scheduler.advance(Seconds(0.2));
+    p.fakes.menuBar.click();
+    EXPECT_FALSE(p.panel->isShown());
+    EXPECT_EQ(p.opened, 1);
+
+    p.fakes.menuBar.click();
+    EXPECT_TRUE(p.panel->isShown()) << "the next click opens it";
+    p.fakes.menuBar.click();
+    p.fakes.scheduler.advance(Seconds(0.1));
+    p.fakes.menuBar.click();
+    EXPECT_TRUE(p.panel->isShown()) << "a close asked for here does not swallow the next click";
+
+    p.fakes.menuBar.popovers.front()->dismiss();
+    p.fakes.scheduler.advance(MenuBarPanel::kReopenGuard);
+    p.fakes.menuBar.click();
+    EXPECT_TRUE(p.panel->isShown()) << "a later click is a new one";
 }
 
 TEST(MenuBarPanel, DestroyingItWhileShownClosesItRemovesTheItemAndCallsNothing) {
@@ -87,7 +112,8 @@ TEST(MenuBarPanel, DestroyingItWhileShownClosesItRemovesTheItemAndCallsNothing) 
 TEST(MenuBarPanel, AnItemWithoutAButtonNeverOpens) {
     FakePlatform fakes;
     fakes.menuBar.itemsHaveButtons = false;
-    MenuBarPanel panel(fakes.menuBar, PanelContent{static_cast<MenuModel*>(nullptr)});
+    MenuBarPanel panel(fakes.menuBar, fakes.scheduler,
+                       PanelContent{static_cast<MenuModel*>(nullptr)});
     panel.toggle();
     EXPECT_FALSE(panel.isShown());
     EXPECT_TRUE(fakes.menuBar.monitors.empty());

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <functional>
+#include <optional>
+#include <set>
 #include <string>
 #include <utility>
 #include <vector>
@@ -35,6 +37,8 @@ struct FakeAppShell : AppWindows, AppInstance, LoginItem {
             }
         });
     }
+    std::optional<int> predecessor() const override { return replaced; }
+    bool isRunning(int processID) const override { return running.contains(processID); }
     // The system reports back on the launch.
     void finishLaunch(const std::string& error = "") {
         if (auto done = std::exchange(pendingLaunch, nullptr)) {
@@ -62,6 +66,8 @@ struct FakeAppShell : AppWindows, AppInstance, LoginItem {
     FirstRunModel* firstRun = nullptr;
     std::function<void(const std::string&)> pendingLaunch;
     int launches = 0;
+    std::optional<int> replaced;
+    std::set<int> running;
     Status loginStatus = Status::notRegistered;
     Status statusAfterRegister = Status::enabled;
     std::string registerError;

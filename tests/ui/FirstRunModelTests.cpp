@@ -47,6 +47,41 @@ TEST(FirstRunModel, FinishingSwitchesThePickedToolsOnAndOffersSetupOnce) {
     EXPECT_FALSE(FirstRunModel::isNeeded(launched.fakes.preferences));
 }
 
+TEST(FirstRunModel, AsksOnlyForWhatThePickedToolsNeed) {
+    LaunchedApp launched;
+    launched.add("snap", std::vector<Permission>{Permission::accessibility});
+    launched.add("record",
+                 std::vector<Permission>{Permission::screenRecording, Permission::accessibility});
+    launched.add("plain");
+    launched.add("later", std::vector<Permission>{Permission::systemAudioRecording}).available =
+        false;
+    launched.launch();
+    FirstRunModel& welcome = launched.firstRun();
+    const auto asked = [&] {
+        std::vector<Permission> permissions;
+        for (const auto& card : welcome.cards()) {
+            permissions.push_back(card.permission);
+        }
+        return permissions;
+    };
+
+    EXPECT_TRUE(asked().empty());
+    EXPECT_EQ(welcome.permissionsIntro(), FirstRunModel::kPermissionsOnPicking);
+    welcome.setPicked("plain", true);
+    welcome.setPicked("later", true);
+    EXPECT_TRUE(asked().empty()) << "a tool that cannot run here asks for nothing";
+    EXPECT_EQ(welcome.permissionsIntro(), FirstRunModel::kNoPermissionsNeeded);
+
+    welcome.setPicked("record", true);
+    welcome.setPicked("snap", true);
+    EXPECT_EQ(asked(),
+              (std::vector<Permission>{Permission::accessibility, Permission::screenRecording}))
+        << "each once, in the usual order";
+    EXPECT_EQ(welcome.permissionsIntro(), FirstRunModel::kPermissionsIntro);
+    welcome.setPicked("record", false);
+    EXPECT_EQ(asked(), (std::vector<Permission>{Permission::accessibility}));
+}
+
 TEST(FirstRunModel, ClosingTheWelcomeSwitchesNothingOnAndADamagedRecordShowsItAgain) {
     LaunchedApp launched;
     launched.add("alpha");
