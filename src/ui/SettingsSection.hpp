@@ -11,6 +11,8 @@ struct SettingsSection {
     std::string title;
     std::vector<SettingsRow> rows;
     std::string footer;
+    // An application bundle's path whose icon is shown before the title; empty for none.
+    std::string iconFile{};
 };
 
 }  // namespace quorvane

@@ -57,7 +57,7 @@ void AppVolumeTool::addMixer(SettingsPage& page, bool compact) {
     for (const std::size_t index : rows) {
         const AudioApp& app = apps[index];
         const std::string id = app.id;
-        SettingsSection section{app.name, {}, ""};
+        SettingsSection section{app.name, {}, "", app.bundleURL.value_or("")};
         section.rows.push_back(
             {SettingsRow::Slider{"Volume", 0.0, kMaximumLevel, 0.01,
                                  [this, id] { return level(id); },

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "app/ToolCatalog.hpp"
 #include "audio/EqualizerEngine.hpp"
 #include "audio/TappedProcessCounts.hpp"
@@ -216,9 +218,16 @@ TEST_F(AppVolumeToolTest, TheMixerListsAppsThatPlayedAndKeepsItsOrderWhileThePoi
     mixer();
     hal.addProcess(104, 504, "com.example.aardvark", true);
     fakes.processFacts.names[504] = "Aardvark";
+    fakes.processFacts.executables[504] = "/Applications/Aardvark.app/Contents/MacOS/Aardvark";
     hal.fire(hal::kSystemObject, hal::globalAddress(hal::kProcessObjectList));
     page = mixer();
     EXPECT_LT(page.find("Player"), page.find("Aardvark")) << "new rows join at the end";
+    const auto sections = tool->mixerPage().sections;
+    const auto aardvark = std::find_if(sections.begin(), sections.end(), [](const auto& section) {
+        return section.title == "Aardvark";
+    });
+    ASSERT_NE(aardvark, sections.end());
+    EXPECT_EQ(aardvark->iconFile, "/Applications/Aardvark.app") << "its row shows the app's icon";
     EXPECT_NE(panel.layoutKey(), layout) << "a new row builds the page again";
     panel.pointerInside(false);
     page = mixer();
