@@ -5,6 +5,8 @@
 #include "mac/MacAccessibility.hpp"
 
 #include <cassert>
+#include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <type_traits>
@@ -12,6 +14,7 @@
 #include "mac/CFRef.hpp"
 #include "mac/MacFrameworks.h"
 #include "mac/MacStrings.hpp"
+#include "platform/AccessibilityStructType.hpp"
 
 // unconfirmed: check on a Mac first. AXUIElementGetTypeID, AXValueGetType and the
 // CFGetTypeID / CFBoolean / CFNumber / CFArray calls in the conversions below are not in the
@@ -42,40 +45,25 @@ AXUIElementRef refOf(const Element& element) {
     return mac ? mac->ref() : nullptr;
 }
 
+// The portable geometry and range types are laid out as the system's, so an AXValue is read
+// and made in place.
+static_assert(sizeof(Point) == sizeof(CGPoint) && offsetof(Point, y) == offsetof(CGPoint, y));
+static_assert(sizeof(Size) == sizeof(CGSize) && offsetof(Size, height) == offsetof(CGSize, height));
+static_assert(sizeof(Rect) == sizeof(CGRect) && offsetof(Rect, size) == offsetof(CGRect, size));
+static_assert(sizeof(TextRange) == sizeof(CFRange) &&
+              offsetof(TextRange, length) == offsetof(CFRange, length));
+static_assert(static_cast<AXValueType>(AccessibilityStructType::point) == kAXValueTypeCGPoint);
+static_assert(static_cast<AXValueType>(AccessibilityStructType::size) == kAXValueTypeCGSize);
+static_assert(static_cast<AXValueType>(AccessibilityStructType::rect) == kAXValueTypeCGRect);
+static_assert(static_cast<AXValueType>(AccessibilityStructType::range) == kAXValueTypeCFRange);
+
 std::optional<AccessibilityValue> fromAXValue(AXValueRef value) {
-    switch (AXValueGetType(value)) {
-        case kAXValueTypeCGPoint: {
-            CGPoint point{};
-            if (AXValueGetValue(value, kAXValueTypeCGPoint, &point)) {
-                return Point{point.x, point.y};
-            }
-            break;
-        }
-        case kAXValueTypeCGSize: {
-            CGSize size{};
-            if (AXValueGetValue(value, kAXValueTypeCGSize, &size)) {
-                return Size{size.width, size.height};
-            }
-            break;
-        }
-        case kAXValueTypeCGRect: {
-            CGRect rect{};
-            if (AXValueGetValue(value, kAXValueTypeCGRect, &rect)) {
-                return Rect(rect.origin.x, rect.origin.y, rect.size.width, rect.size.height);
-            }
-            break;
-        }
-        case kAXValueTypeCFRange: {
-            CFRange range{};
-            if (AXValueGetValue(value, kAXValueTypeCFRange, &range)) {
-                return TextRange{range.location, range.length};
-            }
-            break;
-        }
-        default:
-            break;
+    const AXValueType type = AXValueGetType(value);
+    auto result = emptyStruct(static_cast<std::uint32_t>(type));
+    if (!result || !AXValueGetValue(value, type, structBytes(*result))) {
+        return std::nullopt;
     }
-    return std::nullopt;
+    return result;
 }
 
 // Nothing for kinds Quorvane does not read.
@@ -113,26 +101,18 @@ std::optional<AccessibilityValue> fromCF(CFTypeRef value) {
     return std::nullopt;
 }
 
-// Empty for values the system has no attribute form of (element lists).
+// Empty for values the system has no attribute form of (element lists). Structs are wrapped in
+// an AXValue.
 CFRef<CFTypeRef> toCF(const AccessibilityValue& value) {
     using Ref = CFRef<CFTypeRef>;
+    if (const auto type = structType(value)) {
+        return Ref::adopt(AXValueCreate(static_cast<AXValueType>(*type), structBytes(value)));
+    }
     return std::visit(
         [](const auto& v) -> Ref {
             using T = std::decay_t<decltype(v)>;
             if constexpr (std::is_same_v<T, Element>) {
                 return Ref::retain(refOf(v));
-            } else if constexpr (std::is_same_v<T, Point>) {
-                const CGPoint point = CGPointMake(v.x, v.y);
-                return Ref::adopt(AXValueCreate(kAXValueTypeCGPoint, &point));
-            } else if constexpr (std::is_same_v<T, Size>) {
-                const CGSize size = CGSizeMake(v.width, v.height);
-                return Ref::adopt(AXValueCreate(kAXValueTypeCGSize, &size));
-            } else if constexpr (std::is_same_v<T, Rect>) {
-                const CGRect rect = CGRectMake(v.origin.x, v.origin.y, v.size.width, v.size.height);
-                return Ref::adopt(AXValueCreate(kAXValueTypeCGRect, &rect));
-            } else if constexpr (std::is_same_v<T, TextRange>) {
-                const CFRange range = CFRangeMake(v.location, v.length);
-                return Ref::adopt(AXValueCreate(kAXValueTypeCFRange, &range));
             } else if constexpr (std::is_same_v<T, std::string>) {
                 return Ref::adopt(makeCFString(v).detach());
             } else if constexpr (std::is_same_v<T, bool>) {

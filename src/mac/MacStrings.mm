@@ -23,6 +23,11 @@ NSString* makeNSString(std::string_view utf8) {
     return CFBridgingRelease(makeCFString(utf8).detach());
 }
 
+NSString* text(std::string_view utf8) {
+    NSString* string = makeNSString(utf8);
+    return string ? string : @"";
+}
+
 std::string utf8String(CFStringRef string) {
     if (!string) {
         return {};
