@@ -6,10 +6,13 @@
 #include <optional>
 #include <string>
 #include <type_traits>
+#include <utility>
+#include <vector>
 
 #include "mac/CFRef.hpp"
 #include "mac/MacFrameworks.h"
 #include "mac/MacStrings.hpp"
+#include "platform/AccessibilityObjects.hpp"
 #include "platform/AccessibilityStructType.hpp"
 
 // unconfirmed: check on a Mac first. AXUIElementGetTypeID, AXValueGetType and the
@@ -53,49 +56,54 @@ static_assert(static_cast<AXValueType>(AccessibilityStructType::size) == kAXValu
 static_assert(static_cast<AXValueType>(AccessibilityStructType::rect) == kAXValueTypeCGRect);
 static_assert(static_cast<AXValueType>(AccessibilityStructType::range) == kAXValueTypeCFRange);
 
-std::optional<AccessibilityValue> fromAXValue(AXValueRef value) {
-    const AXValueType type = AXValueGetType(value);
-    auto result = emptyStruct(static_cast<std::uint32_t>(type));
-    if (!result || !AXValueGetValue(value, type, structBytes(*result))) {
-        return std::nullopt;
-    }
-    return result;
-}
-
-// Nothing for kinds Quorvane does not read.
-std::optional<AccessibilityValue> fromCF(CFTypeRef value) {
-    const CFTypeID type = CFGetTypeID(value);
-    if (type == AXUIElementGetTypeID()) {
-        return makeElement(CFRef<AXUIElementRef>::retain(static_cast<AXUIElementRef>(value)));
-    }
-    if (type == AXValueGetTypeID()) {
-        return fromAXValue(static_cast<AXValueRef>(value));
-    }
-    if (type == CFStringGetTypeID()) {
-        return utf8String(static_cast<CFStringRef>(value));
-    }
-    if (type == CFBooleanGetTypeID()) {
-        return static_cast<bool>(CFBooleanGetValue(static_cast<CFBooleanRef>(value)));
-    }
-    if (type == CFNumberGetTypeID()) {
-        double number = 0;
-        CFNumberGetValue(static_cast<CFNumberRef>(value), kCFNumberDoubleType, &number);
-        return number;
-    }
-    if (type == CFArrayGetTypeID()) {
-        const auto array = static_cast<CFArrayRef>(value);
-        std::vector<Element> elements;
-        for (CFIndex i = 0; i < CFArrayGetCount(array); ++i) {
-            CFTypeRef item = CFArrayGetValueAtIndex(array, i);
-            if (item && CFGetTypeID(item) == AXUIElementGetTypeID()) {
-                elements.push_back(
-                    makeElement(CFRef<AXUIElementRef>::retain(static_cast<AXUIElementRef>(item))));
+// Core Foundation's objects, call for call; what they are read as is decided in
+// readAccessibilityValue.
+class AXObjects final : public AccessibilityObjects {
+public:
+    Type type(Object object) const override {
+        const CFTypeID id = CFGetTypeID(object);
+        const std::pair<CFTypeID, Type> types[] = {
+            {AXUIElementGetTypeID(), Type::element}, {AXValueGetTypeID(), Type::structValue},
+            {CFStringGetTypeID(), Type::string},     {CFBooleanGetTypeID(), Type::boolean},
+            {CFNumberGetTypeID(), Type::number},     {CFArrayGetTypeID(), Type::array},
+        };
+        for (const auto& [typeID, kind] : types) {
+            if (typeID == id) {
+                return kind;
             }
         }
-        return elements;
+        return Type::other;
     }
-    return std::nullopt;
-}
+    Element element(Object object) const override {
+        return makeElement(CFRef<AXUIElementRef>::retain(static_cast<AXUIElementRef>(object)));
+    }
+    std::uint32_t structType(Object object) const override {
+        return AXValueGetType(static_cast<AXValueRef>(object));
+    }
+    bool readStruct(Object object, std::uint32_t type, void* bytes) const override {
+        return AXValueGetValue(static_cast<AXValueRef>(object), static_cast<AXValueType>(type),
+                               bytes);
+    }
+    std::string string(Object object) const override {
+        return utf8String(static_cast<CFStringRef>(object));
+    }
+    bool boolean(Object object) const override {
+        return CFBooleanGetValue(static_cast<CFBooleanRef>(object));
+    }
+    double number(Object object) const override {
+        double value = 0;
+        CFNumberGetValue(static_cast<CFNumberRef>(object), kCFNumberDoubleType, &value);
+        return value;
+    }
+    std::vector<Object> elements(Object array) const override {
+        const auto cfArray = static_cast<CFArrayRef>(array);
+        std::vector<Object> result;
+        for (CFIndex index = 0; index < CFArrayGetCount(cfArray); ++index) {
+            result.push_back(CFArrayGetValueAtIndex(cfArray, index));
+        }
+        return result;
+    }
+};
 
 // Empty for values the system has no attribute form of (element lists). Structs are wrapped in
 // an AXValue.
@@ -196,22 +204,10 @@ private:
     bool scheduled_ = false;
 };
 
-// Takes ownership of what a Copy call returned (+1, even alongside a failure status) and
-// converts it; a kind Quorvane never reads, such as a URL or a date, reads as no value.
+// Takes ownership of what a Copy call returned: +1, even alongside a failure status.
 std::int32_t adoptCopiedValue(AXError status, CFTypeRef raw, AccessibilityValue& value) {
     const auto owned = CFRef<CFTypeRef>::adopt(raw);
-    if (status != kAXErrorSuccess) {
-        return status;
-    }
-    if (!owned) {
-        return kAXErrorNoValue;
-    }
-    auto converted = fromCF(owned.get());
-    if (!converted) {
-        return kAXErrorNoValue;
-    }
-    value = std::move(*converted);
-    return kAXErrorSuccess;
+    return readCopiedValue(status, AXObjects(), owned.get(), value);
 }
 
 }  // namespace
