@@ -11,6 +11,7 @@
 
 #include "mac/CFRef.hpp"
 #include "mac/MacFrameworks.h"
+#include "mac/MacPropertyList.hpp"
 #include "mac/MacStrings.hpp"
 #include "platform/AccessibilityObjects.hpp"
 #include "platform/AccessibilityStructType.hpp"
@@ -61,18 +62,12 @@ static_assert(static_cast<AXValueType>(AccessibilityStructType::range) == kAXVal
 class AXObjects final : public AccessibilityObjects {
 public:
     Type type(Object object) const override {
-        const CFTypeID id = CFGetTypeID(object);
         const std::pair<CFTypeID, Type> types[] = {
             {AXUIElementGetTypeID(), Type::element}, {AXValueGetTypeID(), Type::structValue},
             {CFStringGetTypeID(), Type::string},     {CFBooleanGetTypeID(), Type::boolean},
             {CFNumberGetTypeID(), Type::number},     {CFArrayGetTypeID(), Type::array},
         };
-        for (const auto& [typeID, kind] : types) {
-            if (typeID == id) {
-                return kind;
-            }
-        }
-        return Type::other;
+        return kindOf(object, types, Type::other);
     }
     Element element(Object object) const override {
         return makeElement(CFRef<AXUIElementRef>::retain(static_cast<AXUIElementRef>(object)));
@@ -96,12 +91,7 @@ public:
         return value;
     }
     std::vector<Object> elements(Object array) const override {
-        const auto cfArray = static_cast<CFArrayRef>(array);
-        std::vector<Object> result;
-        for (CFIndex index = 0; index < CFArrayGetCount(cfArray); ++index) {
-            result.push_back(CFArrayGetValueAtIndex(cfArray, index));
-        }
-        return result;
+        return arrayValues(static_cast<CFArrayRef>(array));
     }
 };
 

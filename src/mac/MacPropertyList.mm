@@ -21,7 +21,6 @@ namespace {
 class CFPropertyListObjects final : public PropertyListObjects {
 public:
     Type type(Object object) const override {
-        const CFTypeID id = CFGetTypeID(object);
         const std::pair<CFTypeID, Type> types[] = {
             {CFBooleanGetTypeID(), Type::boolean},
             {CFNumberGetTypeID(), Type::number},
@@ -31,12 +30,7 @@ public:
             {CFArrayGetTypeID(), Type::array},
             {CFDictionaryGetTypeID(), Type::dictionary},
         };
-        for (const auto& [typeID, kind] : types) {
-            if (typeID == id) {
-                return kind;
-            }
-        }
-        return Type::other;
+        return kindOf(object, types, Type::other);
     }
     bool boolean(Object object) const override {
         return CFBooleanGetValue(static_cast<CFBooleanRef>(object));
@@ -71,12 +65,7 @@ public:
         return CFDateGetAbsoluteTime(static_cast<CFDateRef>(object));
     }
     std::vector<Object> elements(Object array) const override {
-        const auto cfArray = static_cast<CFArrayRef>(array);
-        std::vector<Object> result;
-        for (CFIndex index = 0; index < CFArrayGetCount(cfArray); ++index) {
-            result.push_back(CFArrayGetValueAtIndex(cfArray, index));
-        }
-        return result;
+        return arrayValues(static_cast<CFArrayRef>(array));
     }
     std::vector<std::pair<Object, Object>> entries(Object dictionary) const override {
         const auto cfDictionary = static_cast<CFDictionaryRef>(dictionary);
@@ -137,6 +126,14 @@ private:
 };
 
 }  // namespace
+
+std::vector<const void*> arrayValues(CFArrayRef array) {
+    std::vector<const void*> values;
+    for (CFIndex index = 0; index < CFArrayGetCount(array); ++index) {
+        values.push_back(CFArrayGetValueAtIndex(array, index));
+    }
+    return values;
+}
 
 std::optional<PreferenceValue> fromPropertyList(CFTypeRef object) {
     return readPropertyList(CFPropertyListObjects(), object);
