@@ -10,6 +10,7 @@ PermissionCard PermissionCard::make(Permission permission, const PermissionCente
                         std::string(quorvane::explanation(permission)),
                         State::untestable,
                         "",
+                        ColorRole::secondaryLabel,
                         {},
                         {}};
     switch (permission) {
@@ -26,12 +27,16 @@ PermissionCard PermissionCard::make(Permission permission, const PermissionCente
     switch (card.state) {
         case State::granted:
             card.stateIcon = "checkmark.circle.fill";
+            card.stateColor = ColorRole::green;
             break;
         case State::missing:
             card.stateIcon = "exclamationmark.circle.fill";
+            card.stateColor = ColorRole::orange;
             break;
         case State::untestable:
             card.stateIcon = "questionmark.circle";
+            // Nothing to check: neither good nor bad news.
+            card.stateColor = ColorRole::secondaryLabel;
             break;
     }
 

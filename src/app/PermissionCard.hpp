@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "app/Permission.hpp"
+#include "base/ColorRole.hpp"
 
 namespace quorvane {
 
@@ -29,6 +30,7 @@ struct PermissionCard {
     std::string explanation;
     State state;
     std::string stateIcon;
+    ColorRole stateColor;
     std::vector<std::string> steps;
     std::vector<Button> buttons;
 

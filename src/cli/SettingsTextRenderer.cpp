@@ -2,7 +2,6 @@
 
 #include <cmath>
 #include <cstddef>
-#include <sstream>
 
 #include "base/Overloaded.hpp"
 #include "ui/SettingsRowDisplay.hpp"
@@ -10,12 +9,6 @@
 namespace quorvane {
 
 namespace {
-
-std::string plainNumber(double value) {
-    std::ostringstream out;
-    out << value;
-    return out.str();
-}
 
 // An empty list or field still prints something, so a line never ends in a bare colon.
 std::string orNone(const std::string& text) {
@@ -37,7 +30,7 @@ std::string SettingsTextRenderer::renderRow(const SettingsRow& row) {
     return std::visit(
         Overloaded{
             [](const R::Toggle& t) {
-                return "[" + std::string(t.get() ? "x" : " ") + "] " + t.label +
+                return "[" + std::string(isOn(t) ? "x" : " ") + "] " + t.label +
                        (t.help.empty() ? "" : "\n    " + t.help);
             },
             [](const R::Choice& c) {
@@ -49,14 +42,12 @@ std::string SettingsTextRenderer::renderRow(const SettingsRow& row) {
                        ")";
             },
             [](const R::Slider& s) {
-                const double value = s.get();
-                return s.label + ": " + (s.format ? s.format(value) : plainNumber(value)) + "  (" +
+                return s.label + ": " + valueText(s, currentValue(s)) + "  (" +
                        plainNumber(s.minimum) + " to " + plainNumber(s.maximum) + ")";
             },
             [](const R::Stepper& s) {
-                const auto value = s.get();
-                return s.label + ": " + (s.format ? s.format(value) : std::to_string(value)) +
-                       "  (" + std::to_string(s.minimum) + " to " + std::to_string(s.maximum) + ")";
+                return s.label + ": " + valueText(s, currentValue(s)) + "  (" +
+                       std::to_string(s.minimum) + " to " + std::to_string(s.maximum) + ")";
             },
             [](const R::TextField& t) {
                 const std::string value = t.get();
@@ -65,7 +56,7 @@ std::string SettingsTextRenderer::renderRow(const SettingsRow& row) {
             },
             [](const R::Shortcut& s) {
                 std::string line = s.label + ": " + shortcutText(s);
-                if (s.hasConflict && s.hasConflict()) {
+                if (showsConflict(s)) {
                     line += "\n    ! " + s.conflictNotice;
                 }
                 return line;
@@ -104,7 +95,7 @@ std::string SettingsTextRenderer::renderRow(const SettingsRow& row) {
             [](const R::Note& n) { return n.text; },
             [](const R::Warning& w) { return "! " + w.text; },
             [](const R::Button& b) { return "[" + b.title + "]"; },
-            [](const R::Custom& c) { return c.summary ? c.summary() : c.name; },
+            [](const R::Custom& c) { return customText(c); },
         },
         row.kind);
 }
@@ -119,7 +110,7 @@ std::string SettingsTextRenderer::render(const SettingsPage& page) {
             text += section.title + "\n";
         }
         for (const auto& row : section.rows) {
-            if (row.isVisible && !row.isVisible()) {
+            if (!isShown(row)) {
                 continue;
             }
             std::string rendered = renderRow(row);

@@ -1,7 +1,3 @@
-#if !__has_feature(objc_arc)
-#error "Compile with -fobjc-arc"
-#endif
-
 #include "mac/AppDelegate.hpp"
 
 #include <memory>
@@ -20,9 +16,11 @@
 #include "mac/MacPreferences.hpp"
 #include "mac/MacProcessFacts.hpp"
 #include "mac/MacScheduler.hpp"
+#include "mac/MacStrings.hpp"
 #include "mac/MacWorkspace.hpp"
 #include "platform/Platform.hpp"
 #include "portable/SpawnedChildProcesses.hpp"
+#include "ui/MenuModel.hpp"
 #include "input/InputServices.hpp"
 #include "mac/MacAccessibility.hpp"
 #include "mac/MacEventMonitors.hpp"
@@ -125,12 +123,16 @@ struct AppState {
 - (void)installMainMenu {
     NSMenu* main = [[NSMenu alloc] initWithTitle:@""];
     NSMenu* application = [[NSMenu alloc] initWithTitle:@"Quorvane"];
-    [application addItemWithTitle:@"Settings…" action:@selector(showSettings:) keyEquivalent:@","]
+    [application addItemWithTitle:quorvane::text(quorvane::MenuModel::kSettingsTitle)
+                           action:@selector(showSettings:)
+                    keyEquivalent:@","]
         .target = self;
     [application addItemWithTitle:@"Close Window"
                            action:@selector(performClose:)
                     keyEquivalent:@"w"];
-    [application addItemWithTitle:@"Quit Quorvane" action:@selector(terminate:) keyEquivalent:@"q"];
+    [application addItemWithTitle:quorvane::text(quorvane::MenuModel::kQuitTitle)
+                           action:@selector(terminate:)
+                    keyEquivalent:@"q"];
     NSMenu* edit = [[NSMenu alloc] initWithTitle:@"Edit"];
     [edit addItemWithTitle:@"Undo" action:@selector(undo:) keyEquivalent:@"z"];
     [edit addItemWithTitle:@"Redo" action:@selector(redo:) keyEquivalent:@"Z"];

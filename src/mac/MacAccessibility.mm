@@ -1,17 +1,20 @@
-#if !__has_feature(objc_arc)
-#error "Compile with -fobjc-arc"
-#endif
-
 #include "mac/MacAccessibility.hpp"
 
 #include <cassert>
+#include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <type_traits>
+#include <utility>
+#include <vector>
 
 #include "mac/CFRef.hpp"
 #include "mac/MacFrameworks.h"
+#include "mac/MacPropertyList.hpp"
 #include "mac/MacStrings.hpp"
+#include "platform/AccessibilityObjects.hpp"
+#include "platform/AccessibilityStructType.hpp"
 
 // unconfirmed: check on a Mac first. AXUIElementGetTypeID, AXValueGetType and the
 // CFGetTypeID / CFBoolean / CFNumber / CFArray calls in the conversions below are not in the
@@ -42,97 +45,68 @@ AXUIElementRef refOf(const Element& element) {
     return mac ? mac->ref() : nullptr;
 }
 
-std::optional<AccessibilityValue> fromAXValue(AXValueRef value) {
-    switch (AXValueGetType(value)) {
-        case kAXValueTypeCGPoint: {
-            CGPoint point{};
-            if (AXValueGetValue(value, kAXValueTypeCGPoint, &point)) {
-                return Point{point.x, point.y};
-            }
-            break;
-        }
-        case kAXValueTypeCGSize: {
-            CGSize size{};
-            if (AXValueGetValue(value, kAXValueTypeCGSize, &size)) {
-                return Size{size.width, size.height};
-            }
-            break;
-        }
-        case kAXValueTypeCGRect: {
-            CGRect rect{};
-            if (AXValueGetValue(value, kAXValueTypeCGRect, &rect)) {
-                return Rect(rect.origin.x, rect.origin.y, rect.size.width, rect.size.height);
-            }
-            break;
-        }
-        case kAXValueTypeCFRange: {
-            CFRange range{};
-            if (AXValueGetValue(value, kAXValueTypeCFRange, &range)) {
-                return TextRange{range.location, range.length};
-            }
-            break;
-        }
-        default:
-            break;
-    }
-    return std::nullopt;
-}
+// The portable geometry and range types are laid out as the system's, so an AXValue is read
+// and made in place.
+static_assert(sizeof(Point) == sizeof(CGPoint) && offsetof(Point, y) == offsetof(CGPoint, y));
+static_assert(sizeof(Size) == sizeof(CGSize) && offsetof(Size, height) == offsetof(CGSize, height));
+static_assert(sizeof(Rect) == sizeof(CGRect) && offsetof(Rect, size) == offsetof(CGRect, size));
+static_assert(sizeof(TextRange) == sizeof(CFRange) &&
+              offsetof(TextRange, length) == offsetof(CFRange, length));
+static_assert(static_cast<AXValueType>(AccessibilityStructType::point) == kAXValueTypeCGPoint);
+static_assert(static_cast<AXValueType>(AccessibilityStructType::size) == kAXValueTypeCGSize);
+static_assert(static_cast<AXValueType>(AccessibilityStructType::rect) == kAXValueTypeCGRect);
+static_assert(static_cast<AXValueType>(AccessibilityStructType::range) == kAXValueTypeCFRange);
 
-// Nothing for kinds Quorvane does not read.
-std::optional<AccessibilityValue> fromCF(CFTypeRef value) {
-    const CFTypeID type = CFGetTypeID(value);
-    if (type == AXUIElementGetTypeID()) {
-        return makeElement(CFRef<AXUIElementRef>::retain(static_cast<AXUIElementRef>(value)));
+// Core Foundation's objects, call for call; what they are read as is decided in
+// readAccessibilityValue.
+class AXObjects final : public AccessibilityObjects {
+public:
+    Type type(Object object) const override {
+        const std::pair<CFTypeID, Type> types[] = {
+            {AXUIElementGetTypeID(), Type::element}, {AXValueGetTypeID(), Type::structValue},
+            {CFStringGetTypeID(), Type::string},     {CFBooleanGetTypeID(), Type::boolean},
+            {CFNumberGetTypeID(), Type::number},     {CFArrayGetTypeID(), Type::array},
+        };
+        return kindOf(object, types, Type::other);
     }
-    if (type == AXValueGetTypeID()) {
-        return fromAXValue(static_cast<AXValueRef>(value));
+    Element element(Object object) const override {
+        return makeElement(CFRef<AXUIElementRef>::retain(static_cast<AXUIElementRef>(object)));
     }
-    if (type == CFStringGetTypeID()) {
-        return utf8String(static_cast<CFStringRef>(value));
+    std::uint32_t structType(Object object) const override {
+        return AXValueGetType(static_cast<AXValueRef>(object));
     }
-    if (type == CFBooleanGetTypeID()) {
-        return static_cast<bool>(CFBooleanGetValue(static_cast<CFBooleanRef>(value)));
+    bool readStruct(Object object, std::uint32_t type, void* bytes) const override {
+        return AXValueGetValue(static_cast<AXValueRef>(object), static_cast<AXValueType>(type),
+                               bytes);
     }
-    if (type == CFNumberGetTypeID()) {
-        double number = 0;
-        CFNumberGetValue(static_cast<CFNumberRef>(value), kCFNumberDoubleType, &number);
-        return number;
+    std::string string(Object object) const override {
+        return utf8String(static_cast<CFStringRef>(object));
     }
-    if (type == CFArrayGetTypeID()) {
-        const auto array = static_cast<CFArrayRef>(value);
-        std::vector<Element> elements;
-        for (CFIndex i = 0; i < CFArrayGetCount(array); ++i) {
-            CFTypeRef item = CFArrayGetValueAtIndex(array, i);
-            if (item && CFGetTypeID(item) == AXUIElementGetTypeID()) {
-                elements.push_back(
-                    makeElement(CFRef<AXUIElementRef>::retain(static_cast<AXUIElementRef>(item))));
-            }
-        }
-        return elements;
+    bool boolean(Object object) const override {
+        return CFBooleanGetValue(static_cast<CFBooleanRef>(object));
     }
-    return std::nullopt;
-}
+    double number(Object object) const override {
+        double value = 0;
+        CFNumberGetValue(static_cast<CFNumberRef>(object), kCFNumberDoubleType, &value);
+        return value;
+    }
+    std::vector<Object> elements(Object array) const override {
+        return arrayValues(static_cast<CFArrayRef>(array));
+    }
+};
 
-// Empty for values the system has no attribute form of (element lists).
+// Empty for values the system has no attribute form of (element lists). Structs are wrapped in
+// an AXValue.
 CFRef<CFTypeRef> toCF(const AccessibilityValue& value) {
     using Ref = CFRef<CFTypeRef>;
+    if (const auto type = structType(value)) {
+        return Ref::adopt(AXValueCreate(static_cast<AXValueType>(*type), structBytes(value)));
+    }
     return std::visit(
         [](const auto& v) -> Ref {
             using T = std::decay_t<decltype(v)>;
             if constexpr (std::is_same_v<T, Element>) {
                 return Ref::retain(refOf(v));
-            } else if constexpr (std::is_same_v<T, Point>) {
-                const CGPoint point = CGPointMake(v.x, v.y);
-                return Ref::adopt(AXValueCreate(kAXValueTypeCGPoint, &point));
-            } else if constexpr (std::is_same_v<T, Size>) {
-                const CGSize size = CGSizeMake(v.width, v.height);
-                return Ref::adopt(AXValueCreate(kAXValueTypeCGSize, &size));
-            } else if constexpr (std::is_same_v<T, Rect>) {
-                const CGRect rect = CGRectMake(v.origin.x, v.origin.y, v.size.width, v.size.height);
-                return Ref::adopt(AXValueCreate(kAXValueTypeCGRect, &rect));
-            } else if constexpr (std::is_same_v<T, TextRange>) {
-                const CFRange range = CFRangeMake(v.location, v.length);
-                return Ref::adopt(AXValueCreate(kAXValueTypeCFRange, &range));
             } else if constexpr (std::is_same_v<T, std::string>) {
                 return Ref::adopt(makeCFString(v).detach());
             } else if constexpr (std::is_same_v<T, bool>) {
@@ -220,22 +194,10 @@ private:
     bool scheduled_ = false;
 };
 
-// Takes ownership of what a Copy call returned (+1, even alongside a failure status) and
-// converts it; a kind Quorvane never reads, such as a URL or a date, reads as no value.
+// Takes ownership of what a Copy call returned: +1, even alongside a failure status.
 std::int32_t adoptCopiedValue(AXError status, CFTypeRef raw, AccessibilityValue& value) {
     const auto owned = CFRef<CFTypeRef>::adopt(raw);
-    if (status != kAXErrorSuccess) {
-        return status;
-    }
-    if (!owned) {
-        return kAXErrorNoValue;
-    }
-    auto converted = fromCF(owned.get());
-    if (!converted) {
-        return kAXErrorNoValue;
-    }
-    value = std::move(*converted);
-    return kAXErrorSuccess;
+    return readCopiedValue(status, AXObjects(), owned.get(), value);
 }
 
 }  // namespace

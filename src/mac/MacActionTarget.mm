@@ -1,7 +1,3 @@
-#if !__has_feature(objc_arc)
-#error "Compile with -fobjc-arc"
-#endif
-
 #include "mac/MacActionTarget.hpp"
 
 // unconfirmed: check on a Mac first (NSControl's target and action properties are not in the

@@ -1,13 +1,8 @@
-#if !__has_feature(objc_arc)
-#error "Compile with -fobjc-arc"
-#endif
-
 #include "mac/MacFirstRunWindow.hpp"
 
 #include <string>
 
 #include "base/Subscription.hpp"
-#include "mac/MacActionTarget.hpp"
 #include "mac/MacRefresher.hpp"
 #include "mac/MacPermissionCardView.hpp"
 #include "mac/MacViews.hpp"
@@ -58,30 +53,25 @@ constexpr CGFloat kWidth = 520;
     };
     window.delegate = self;
 
-    NSStackView* content = quorvane::makeColumn(14);
-    [content addArrangedSubview:quorvane::makeHeading(Model::kTitle, 22)];
-    [content addArrangedSubview:quorvane::makeWrappingLabel(Model::kIntro, kWidth)];
-    // The permissions follow the picks, since only the picked tools' are asked for.
-    [content addArrangedSubview:quorvane::makeHeading(Model::kPickTitle, 15)];
-    _suggestions = quorvane::makeColumn(10);
-    [content addArrangedSubview:_suggestions];
-    [content addArrangedSubview:quorvane::makeHeading(Model::kPermissionsTitle, 15)];
-    _permissionsIntro = quorvane::makeSecondaryLabel(model.permissionsIntro(), kWidth);
-    [content addArrangedSubview:_permissionsIntro];
     _cards = quorvane::makeColumn(12);
-    [content addArrangedSubview:_cards];
-
-    NSButton* finish = [NSButton buttonWithTitle:quorvane::text(Model::kFinishTitle)
-                                          target:nil
-                                          action:nil];
+    _suggestions = quorvane::makeColumn(10);
+    _permissionsIntro = quorvane::makeSecondaryLabel(model.permissionsIntro(), kWidth);
+    NSButton* finish = quorvane::makeButton(Model::kFinishTitle, _targets, ^{
+      target->finish();
+    });
     // Return presses it.
     finish.keyEquivalent = @"\r";
-    [QVActionTarget bind:finish
-                    keep:_targets
-                 handler:^(id) {
-                   target->finish();
-                 }];
-    [content addArrangedSubview:finish];
+    NSStackView* content = quorvane::makeColumn(14, @[
+        quorvane::makeHeading(Model::kTitle, 22),
+        quorvane::makeWrappingLabel(Model::kIntro, kWidth),
+        // The permissions follow the picks, since only the picked tools' are asked for.
+        quorvane::makeHeading(Model::kPickTitle, 15),
+        _suggestions,
+        quorvane::makeHeading(Model::kPermissionsTitle, 15),
+        _permissionsIntro,
+        _cards,
+        finish,
+    ]);
 
     NSScrollView* scroll = quorvane::makeScrollView(content, 24);
     [window.contentView addSubview:scroll];
@@ -110,20 +100,14 @@ constexpr CGFloat kWidth = 520;
     }
     Model* model = _model;
     for (const auto& suggestion : suggestions) {
-        NSButton* box = [NSButton checkboxWithTitle:quorvane::text(suggestion.name)
-                                             target:nil
-                                             action:nil];
-        box.state = suggestion.isPicked ? NSControlStateValueOn : NSControlStateValueOff;
         const std::string toolID = suggestion.toolID;
-        [QVActionTarget bind:box
-                        keep:_suggestionTargets
-                     handler:^(id) {
-                       model->setPicked(toolID, box.state == NSControlStateValueOn);
-                     }];
-        NSStackView* entry = quorvane::makeColumn(2);
-        [entry addArrangedSubview:box];
-        [entry addArrangedSubview:quorvane::makeSecondaryLabel(suggestion.summary, kWidth - 20)];
-        [_suggestions addArrangedSubview:entry];
+        NSButton* box = quorvane::makeCheckbox(suggestion.name, suggestion.isPicked,
+                                               _suggestionTargets, ^(bool on) {
+                                                 model->setPicked(toolID, on);
+                                               });
+        [_suggestions addArrangedSubview:quorvane::makeColumn(2, @[
+                          box, quorvane::makeSecondaryLabel(suggestion.summary, kWidth - 20)
+                      ])];
     }
 }
 

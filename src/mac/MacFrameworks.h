@@ -6,6 +6,12 @@
 #error "MacFrameworks.h is for Objective-C++ (.mm) files only"
 #endif
 
+// Every file that reaches the frameworks holds Objective-C objects, and ARC is what releases
+// them: without it they would leak silently.
+#if !__has_feature(objc_arc)
+#error "Compile with -fobjc-arc"
+#endif
+
 // AppKit first, as its umbrella brings in what the rest build on.
 // clang-format off
 #import <AppKit/AppKit.h>

@@ -1,7 +1,3 @@
-#if !__has_feature(objc_arc)
-#error "Compile with -fobjc-arc"
-#endif
-
 #include "mac/MacMenuBar.hpp"
 
 #include <cassert>
@@ -14,8 +10,8 @@
 #include "mac/MacActionTarget.hpp"
 #include "mac/MacFrameworks.h"
 #include "mac/MacMenuPanelView.hpp"
+#include "mac/MacObservation.hpp"
 #include "mac/MacPanelPageView.hpp"
-#include "mac/MacSettingsPageView.hpp"
 #include "mac/MacViews.hpp"
 #include "ui/PanelContent.hpp"
 
@@ -114,20 +110,9 @@ public:
     void performClose() override { [popover_ performClose:nil]; }
 
     Subscription observeDidClose(std::function<void()> handler) override {
-        auto callback = std::make_shared<Callback>(std::move(handler));
-        // unconfirmed: check on a Mac first (+[NSOperationQueue mainQueue] is not in the fact
-        // sheet).
-        id<NSObject> token =
-            [[NSNotificationCenter defaultCenter] addObserverForName:NSPopoverDidCloseNotification
-                                                              object:popover_
-                                                               queue:[NSOperationQueue mainQueue]
-                                                          usingBlock:^(NSNotification*) {
-                                                            run(callback);
-                                                          }];
-        return Subscription([callback, token] {
-            callback->cancelled = true;
-            [[NSNotificationCenter defaultCenter] removeObserver:token];
-        });
+        return observeOnMainQueue([NSNotificationCenter defaultCenter],
+                                  NSPopoverDidCloseNotification, popover_,
+                                  [handler = std::move(handler)](NSNotification*) { handler(); });
     }
 
 private:
@@ -137,15 +122,7 @@ private:
 NSView* makeContentView(const PanelContent& content) {
     return std::visit(Overloaded{
                           [](const PanelContent::Page& page) -> NSView* {
-                              if (page.layoutKey || page.pointerInside) {
-                                  return [[QVPanelPageView alloc] initWithPage:page];
-                              }
-                              QVSettingsPageView* view = [[QVSettingsPageView alloc]
-                                  initWithPage:page.make ? page.make() : SettingsPage {}
-                                        source:page.source
-                                         width:page.width];
-                              view.edgeInsets = NSEdgeInsetsMake(12, 12, 12, 12);
-                              return view;
+                              return [[QVPanelPageView alloc] initWithPage:page];
                           },
                           [](MenuModel* menu) -> NSView* {
                               if (!menu) {

@@ -1,24 +1,14 @@
-#if !__has_feature(objc_arc)
-#error "Compile with -fobjc-arc"
-#endif
-
 #include "mac/MacMenuPanelView.hpp"
 
 #include <string>
 
 #include "base/Subscription.hpp"
-#include "mac/MacActionTarget.hpp"
 #include "mac/MacRefresher.hpp"
 #include "mac/MacViews.hpp"
 #include "ui/MenuModel.hpp"
+#include "ui/TileGrid.hpp"
 
-namespace {
-
-constexpr std::size_t kTilesPerRow = 3;
-constexpr CGFloat kTileWidth = 88;
-constexpr CGFloat kPanelWidth = 3 * kTileWidth + 2 * 8;  // three tiles and their gaps
-
-}  // namespace
+using quorvane::TileGrid;
 
 // unconfirmed: check on a Mac first. NSButton's image position, push-on-push-off type,
 // bordered flag, key equivalents and tool tips, NSBox's separator type and the stack-view
@@ -44,12 +34,12 @@ constexpr CGFloat kPanelWidth = 3 * kTileWidth + 2 * 8;  // three tiles and thei
     self.spacing = 8;
     self.edgeInsets = NSEdgeInsetsMake(12, 12, 12, 12);
 
-    _grid = quorvane::makeColumn(8);
+    _grid = quorvane::makeColumn(TileGrid::kSpacing);
     [self addArrangedSubview:_grid];
     NSBox* separator = [[NSBox alloc] initWithFrame:NSZeroRect];
     separator.boxType = NSBoxSeparator;
     [self addArrangedSubview:separator];
-    [separator.widthAnchor constraintEqualToConstant:kPanelWidth].active = YES;
+    [separator.widthAnchor constraintEqualToConstant:TileGrid::kWidth].active = YES;
     quorvane::MenuModel* menu = _model;
     [self addArrangedSubview:[self menuButton:quorvane::MenuModel::kSettingsTitle
                                           key:@","
@@ -72,15 +62,10 @@ constexpr CGFloat kPanelWidth = 3 * kTileWidth + 2 * 8;  // three tiles and thei
 }
 
 - (NSButton*)menuButton:(const char*)title key:(NSString*)key action:(void (^)(void))action {
-    NSButton* button = [NSButton buttonWithTitle:quorvane::text(title) target:nil action:nil];
+    NSButton* button = quorvane::makeButton(title, _targets, action);
     button.bordered = NO;
     button.keyEquivalent = key;
     button.keyEquivalentModifierMask = NSEventModifierFlagCommand;
-    [QVActionTarget bind:button
-                    keep:_targets
-                 handler:^(id) {
-                   action();
-                 }];
     return button;
 }
 
@@ -90,21 +75,24 @@ constexpr CGFloat kPanelWidth = 3 * kTileWidth + 2 * 8;  // three tiles and thei
     const auto tiles = _model->tiles();
     if (tiles.empty()) {
         [_grid addArrangedSubview:quorvane::makeSecondaryLabel(quorvane::MenuModel::kEmptyText,
-                                                               kPanelWidth)];
+                                                               TileGrid::kWidth)];
     }
-    NSStackView* line = nil;
-    for (std::size_t index = 0; index < tiles.size(); ++index) {
-        if (index % kTilesPerRow == 0) {
-            line = quorvane::makeRow(8);
-            [_grid addArrangedSubview:line];
+    for (const auto& row : TileGrid::rows(tiles)) {
+        NSStackView* line = quorvane::makeRow(TileGrid::kSpacing);
+        for (const auto& tile : row) {
+            [line addArrangedSubview:[self tile:tile]];
         }
-        [line addArrangedSubview:[self tile:tiles[index]]];
+        [_grid addArrangedSubview:line];
     }
     [self setFrameSize:self.fittingSize];
 }
 
 - (NSButton*)tile:(const quorvane::MenuModel::Tile&)tile {
-    NSButton* button = [NSButton buttonWithTitle:quorvane::text(tile.title) target:nil action:nil];
+    quorvane::MenuModel* model = _model;
+    const std::string toolID = tile.toolID;
+    NSButton* button = quorvane::makeButton(tile.title, _tileTargets, ^{
+      model->press(toolID);
+    });
     NSImage* image = [NSImage imageWithSystemSymbolName:quorvane::text(tile.systemImage)
                                accessibilityDescription:nil];
     if (image) {
@@ -112,17 +100,10 @@ constexpr CGFloat kPanelWidth = 3 * kTileWidth + 2 * 8;  // three tiles and thei
         button.imagePosition = NSImageAbove;
     }
     [button setButtonType:NSButtonTypePushOnPushOff];
-    button.state = tile.isOn ? NSControlStateValueOn : NSControlStateValueOff;
+    button.state = quorvane::stateValue(tile.isOn);
     button.toolTip = quorvane::text(tile.status);
-    [button.widthAnchor constraintEqualToConstant:kTileWidth].active = YES;
-    [button.heightAnchor constraintEqualToConstant:64].active = YES;
-    quorvane::MenuModel* model = _model;
-    const std::string toolID = tile.toolID;
-    [QVActionTarget bind:button
-                    keep:_tileTargets
-                 handler:^(id) {
-                   model->press(toolID);
-                 }];
+    [button.widthAnchor constraintEqualToConstant:TileGrid::kTileWidth].active = YES;
+    [button.heightAnchor constraintEqualToConstant:TileGrid::kTileHeight].active = YES;
     return button;
 }
 

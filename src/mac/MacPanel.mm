@@ -1,7 +1,3 @@
-#if !__has_feature(objc_arc)
-#error "Compile with -fobjc-arc"
-#endif
-
 #include "mac/MacPanel.hpp"
 
 #include "mac/MacStrings.hpp"
@@ -94,26 +90,13 @@ NSView* makeCard(const HUDCard& card) {
     background.layer.cornerRadius = HUDCard::kCornerRadius;
     background.layer.cornerCurve = kCACornerCurveContinuous;
     background.layer.masksToBounds = YES;
-    background.translatesAutoresizingMaskIntoConstraints = NO;
-    stack.translatesAutoresizingMaskIntoConstraints = NO;
     [background addSubview:stack];
-    [NSLayoutConstraint activateConstraints:@[
-        [stack.leadingAnchor constraintEqualToAnchor:background.leadingAnchor],
-        [stack.trailingAnchor constraintEqualToAnchor:background.trailingAnchor],
-        [stack.topAnchor constraintEqualToAnchor:background.topAnchor],
-        [stack.bottomAnchor constraintEqualToAnchor:background.bottomAnchor],
-        [background.widthAnchor constraintEqualToConstant:HUDCard::kWidth],
-    ]];
+    pinEdges(stack, background, 0);
+    [background.widthAnchor constraintEqualToConstant:HUDCard::kWidth].active = YES;
 
     NSView* outer = [[NSView alloc] init];
     [outer addSubview:background];
-    const CGFloat inset = HUDCard::kOuterPadding;
-    [NSLayoutConstraint activateConstraints:@[
-        [background.leadingAnchor constraintEqualToAnchor:outer.leadingAnchor constant:inset],
-        [outer.trailingAnchor constraintEqualToAnchor:background.trailingAnchor constant:inset],
-        [background.topAnchor constraintEqualToAnchor:outer.topAnchor constant:inset],
-        [outer.bottomAnchor constraintEqualToAnchor:background.bottomAnchor constant:inset],
-    ]];
+    pinEdges(background, outer, HUDCard::kOuterPadding);
     return outer;
 }
 

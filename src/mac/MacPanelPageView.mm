@@ -1,7 +1,3 @@
-#if !__has_feature(objc_arc)
-#error "Compile with -fobjc-arc"
-#endif
-
 #include "mac/MacPanelPageView.hpp"
 
 #include <memory>
@@ -9,6 +5,7 @@
 
 #include "base/Subscription.hpp"
 #include "mac/MacSettingsPageView.hpp"
+#include "mac/MacViews.hpp"
 
 namespace {
 
@@ -54,25 +51,18 @@ struct PanelPageState {
 
 - (void)rebuild {
     const auto& page = _state->page;
-    _state->layout = page.layoutKey ? page.layoutKey() : std::string();
+    _state->layout = page.layout();
     [_content removeFromSuperview];
-    _content =
-        [[QVSettingsPageView alloc] initWithPage:page.make ? page.make() : quorvane::SettingsPage {}
-                                          source:page.source
-                                           width:page.width];
+    _content = [[QVSettingsPageView alloc] initWithPage:page.build()
+                                                 source:page.source
+                                                  width:page.width];
     _content.edgeInsets = NSEdgeInsetsMake(12, 12, 12, 12);
-    _content.translatesAutoresizingMaskIntoConstraints = NO;
     [self addSubview:_content];
-    [NSLayoutConstraint activateConstraints:@[
-        [_content.leadingAnchor constraintEqualToAnchor:self.leadingAnchor],
-        [_content.trailingAnchor constraintEqualToAnchor:self.trailingAnchor],
-        [_content.topAnchor constraintEqualToAnchor:self.topAnchor],
-        [_content.bottomAnchor constraintEqualToAnchor:self.bottomAnchor],
-    ]];
+    quorvane::pinEdges(_content, self, 0);
 }
 
 - (void)sourceChanged {
-    if (_state->page.layoutKey && _state->page.layoutKey() != _state->layout) {
+    if (_state->page.needsRebuild(_state->layout)) {
         [self rebuild];
     }
 }

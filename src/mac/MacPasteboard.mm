@@ -1,29 +1,11 @@
-#if !__has_feature(objc_arc)
-#error "Compile with -fobjc-arc"
-#endif
-
 #include "mac/MacPasteboard.hpp"
 
 #include "mac/MacFrameworks.h"
+#include "mac/MacStrings.hpp"
 
 namespace quorvane {
 
 namespace {
-
-NSString* toNSString(const std::string& text) {
-    // unconfirmed: check on a Mac first (-initWithBytes:length:encoding: is not in the fact
-    // sheet). Invalid UTF-8 answers nil; an empty string stands in.
-    NSString* string = [[NSString alloc] initWithBytes:text.data()
-                                                length:text.size()
-                                              encoding:NSUTF8StringEncoding];
-    return string ? string : @"";
-}
-
-std::string toString(NSString* string) {
-    // unconfirmed: check on a Mac first (-UTF8String is not in the fact sheet).
-    const char* utf8 = string.UTF8String;
-    return utf8 ? std::string(utf8) : std::string();
-}
 
 NSData* toNSData(const std::vector<std::uint8_t>& bytes) {
     return [NSData dataWithBytes:bytes.data() length:bytes.size()];
@@ -38,7 +20,7 @@ std::vector<std::uint8_t> toBytes(NSData* data) {
 std::vector<std::string> toStrings(NSArray<NSString*>* strings) {
     std::vector<std::string> result;
     for (NSString* string in strings) {
-        result.push_back(toString(string));
+        result.push_back(utf8String(string));
     }
     return result;
 }
@@ -71,14 +53,14 @@ std::vector<std::vector<std::string>> MacPasteboard::itemTypes() {
 
 std::optional<std::string> MacPasteboard::string(const std::string& type) {
     @autoreleasepool {
-        NSString* string = [general() stringForType:toNSString(type)];
-        return string ? std::optional(toString(string)) : std::nullopt;
+        NSString* string = [general() stringForType:text(type)];
+        return string ? std::optional(utf8String(string)) : std::nullopt;
     }
 }
 
 std::optional<std::vector<std::uint8_t>> MacPasteboard::data(const std::string& type) {
     @autoreleasepool {
-        NSData* data = [general() dataForType:toNSString(type)];
+        NSData* data = [general() dataForType:text(type)];
         return data ? std::optional(toBytes(data)) : std::nullopt;
     }
 }
@@ -93,7 +75,7 @@ std::vector<std::string> MacPasteboard::filePaths() {
         for (NSURL* url in urls) {
             // unconfirmed: check on a Mac first (NSURL's `path` is not in the fact sheet).
             if (NSString* path = url.path) {
-                paths.push_back(toString(path));
+                paths.push_back(utf8String(path));
             }
         }
         return paths;
@@ -109,7 +91,7 @@ std::vector<PasteboardItem> MacPasteboard::items() {
             PasteboardItem copy;
             for (NSPasteboardType type in item.types) {
                 if (NSData* data = [item dataForType:type]) {
-                    copy.representations.push_back({toString(type), toBytes(data)});
+                    copy.representations.push_back({utf8String(type), toBytes(data)});
                 }
             }
             result.push_back(std::move(copy));
@@ -124,13 +106,13 @@ std::int64_t MacPasteboard::clearContents() {
 
 bool MacPasteboard::setString(const std::string& string, const std::string& type) {
     @autoreleasepool {
-        return [general() setString:toNSString(string) forType:toNSString(type)];
+        return [general() setString:text(string) forType:text(type)];
     }
 }
 
 bool MacPasteboard::setData(const std::vector<std::uint8_t>& bytes, const std::string& type) {
     @autoreleasepool {
-        return [general() setData:toNSData(bytes) forType:toNSString(type)];
+        return [general() setData:toNSData(bytes) forType:text(type)];
     }
 }
 
@@ -139,7 +121,7 @@ bool MacPasteboard::writeFilePaths(const std::vector<std::string>& paths) {
         NSMutableArray* urls = [NSMutableArray array];
         for (const std::string& path : paths) {
             // unconfirmed: check on a Mac first (+fileURLWithPath: is not in the fact sheet).
-            [urls addObject:[NSURL fileURLWithPath:toNSString(path)]];
+            [urls addObject:[NSURL fileURLWithPath:text(path)]];
         }
         return [general() writeObjects:urls];
     }
@@ -153,8 +135,7 @@ bool MacPasteboard::writeItems(const std::vector<PasteboardItem>& items) {
             // are not in the fact sheet).
             NSPasteboardItem* written = [[NSPasteboardItem alloc] init];
             for (const auto& representation : item.representations) {
-                [written setData:toNSData(representation.bytes)
-                         forType:toNSString(representation.type)];
+                [written setData:toNSData(representation.bytes) forType:text(representation.type)];
             }
             [objects addObject:written];
         }

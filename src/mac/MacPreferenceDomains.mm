@@ -1,7 +1,3 @@
-#if !__has_feature(objc_arc)
-#error "Compile with -fobjc-arc"
-#endif
-
 #include "mac/MacPreferenceDomains.hpp"
 
 #include "mac/CFRef.hpp"
@@ -10,7 +6,7 @@
 #include "mac/MacStrings.hpp"
 
 // CFPreferencesSynchronize, CopyValue, SetValue, CopyKeyList and the scope constants are in the
-// fact sheet. CFArrayGetCount / GetValueAtIndex are written from Apple's reference.
+// fact sheet.
 
 namespace quorvane {
 
@@ -84,11 +80,9 @@ std::vector<std::string> MacPreferenceDomains::copyKeyList(const std::string& ap
     if (!list) {
         return keys;
     }
-    const CFIndex count = CFArrayGetCount(list.get());
-    for (CFIndex index = 0; index < count; ++index) {
-        const auto key = static_cast<CFStringRef>(CFArrayGetValueAtIndex(list.get(), index));
+    for (const void* key : arrayValues(list.get())) {
         if (key != nullptr && CFGetTypeID(key) == CFStringGetTypeID()) {
-            keys.push_back(utf8String(key));
+            keys.push_back(utf8String(static_cast<CFStringRef>(key)));
         }
     }
     return keys;

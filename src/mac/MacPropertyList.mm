@@ -1,7 +1,3 @@
-#if !__has_feature(objc_arc)
-#error "Compile with -fobjc-arc"
-#endif
-
 #include "mac/MacPropertyList.hpp"
 
 #include <cstddef>
@@ -10,6 +6,7 @@
 #include <vector>
 
 #include "mac/MacStrings.hpp"
+#include "platform/PropertyListObjects.hpp"
 
 // unconfirmed: check on a Mac first. The CFGetTypeID / CFBoolean / CFNumber / CFData / CFDate /
 // CFArray / CFDictionary calls below are not in the fact sheet, and were written from Apple's
@@ -17,136 +14,135 @@
 
 namespace quorvane {
 
-std::optional<PreferenceValue> fromPropertyList(CFTypeRef object) {
-    const CFTypeID type = CFGetTypeID(object);
-    // Booleans are tested first and kept as their own kind, so a stored Boolean never reads
-    // back as the number 0 or 1.
-    if (type == CFBooleanGetTypeID()) {
-        const bool value = CFBooleanGetValue(static_cast<CFBooleanRef>(object));
-        return PreferenceValue(value);
+namespace {
+
+// Core Foundation's objects, call for call; what they become is decided in readPropertyList
+// and makePropertyList.
+class CFPropertyListObjects final : public PropertyListObjects {
+public:
+    Type type(Object object) const override {
+        const std::pair<CFTypeID, Type> types[] = {
+            {CFBooleanGetTypeID(), Type::boolean},
+            {CFNumberGetTypeID(), Type::number},
+            {CFStringGetTypeID(), Type::string},
+            {CFDataGetTypeID(), Type::data},
+            {CFDateGetTypeID(), Type::date},
+            {CFArrayGetTypeID(), Type::array},
+            {CFDictionaryGetTypeID(), Type::dictionary},
+        };
+        return kindOf(object, types, Type::other);
     }
-    if (type == CFNumberGetTypeID()) {
-        const auto number = static_cast<CFNumberRef>(object);
-        if (!CFNumberIsFloatType(number)) {
-            std::int64_t integer = 0;
-            // An unsigned value beyond the signed 64-bit range does not fit; it is read as a
-            // real below rather than wrapped.
-            if (CFNumberGetValue(number, kCFNumberSInt64Type, &integer)) {
-                return PreferenceValue(integer);
-            }
+    bool boolean(Object object) const override {
+        return CFBooleanGetValue(static_cast<CFBooleanRef>(object));
+    }
+    bool isFloat(Object object) const override {
+        return CFNumberIsFloatType(static_cast<CFNumberRef>(object));
+    }
+    std::optional<std::int64_t> integer(Object object) const override {
+        std::int64_t value = 0;
+        // False when the conversion loses anything, such as an unsigned value past 2^63.
+        if (!CFNumberGetValue(static_cast<CFNumberRef>(object), kCFNumberSInt64Type, &value)) {
+            return std::nullopt;
         }
-        double real = 0;
-        CFNumberGetValue(number, kCFNumberDoubleType, &real);
-        return PreferenceValue(real);
+        return value;
     }
-    if (type == CFStringGetTypeID()) {
-        return PreferenceValue(utf8String(static_cast<CFStringRef>(object)));
+    double real(Object object) const override {
+        double value = 0;
+        CFNumberGetValue(static_cast<CFNumberRef>(object), kCFNumberDoubleType, &value);
+        return value;
     }
-    if (type == CFDataGetTypeID()) {
+    std::string string(Object object) const override {
+        return utf8String(static_cast<CFStringRef>(object));
+    }
+    PreferenceValue::Data data(Object object) const override {
         const auto data = static_cast<CFDataRef>(object);
         const UInt8* bytes = CFDataGetBytePtr(data);
         const auto length = static_cast<std::size_t>(CFDataGetLength(data));
-        return PreferenceValue(bytes ? PreferenceValue::Data(bytes, bytes + length)
-                                     : PreferenceValue::Data());
+        return bytes ? PreferenceValue::Data(bytes, bytes + length) : PreferenceValue::Data();
     }
-    if (type == CFDateGetTypeID()) {
+    double date(Object object) const override {
         // Both sides count seconds from 2001-01-01 00:00:00 UTC.
-        return PreferenceValue(
-            PreferenceValue::Date{CFDateGetAbsoluteTime(static_cast<CFDateRef>(object))});
+        return CFDateGetAbsoluteTime(static_cast<CFDateRef>(object));
     }
-    if (type == CFArrayGetTypeID()) {
-        const auto array = static_cast<CFArrayRef>(object);
-        const CFIndex count = CFArrayGetCount(array);
-        PreferenceValue::Array result;
-        result.reserve(static_cast<std::size_t>(count));
-        for (CFIndex index = 0; index < count; ++index) {
-            if (auto element = fromPropertyList(CFArrayGetValueAtIndex(array, index))) {
-                result.push_back(std::move(*element));
-            }
-        }
-        return PreferenceValue(std::move(result));
+    std::vector<Object> elements(Object array) const override {
+        return arrayValues(static_cast<CFArrayRef>(array));
     }
-    if (type == CFDictionaryGetTypeID()) {
-        const auto dictionary = static_cast<CFDictionaryRef>(object);
-        const auto count = static_cast<std::size_t>(CFDictionaryGetCount(dictionary));
+    std::vector<std::pair<Object, Object>> entries(Object dictionary) const override {
+        const auto cfDictionary = static_cast<CFDictionaryRef>(dictionary);
+        const auto count = static_cast<std::size_t>(CFDictionaryGetCount(cfDictionary));
         std::vector<const void*> keys(count);
         std::vector<const void*> values(count);
-        CFDictionaryGetKeysAndValues(dictionary, keys.data(), values.data());
-        PreferenceValue::Dictionary result;
+        CFDictionaryGetKeysAndValues(cfDictionary, keys.data(), values.data());
+        std::vector<std::pair<Object, Object>> result;
         for (std::size_t index = 0; index < count; ++index) {
-            // A property list may key a dictionary by anything; Quorvane's values are keyed
-            // by text only, so other entries are left out.
-            if (CFGetTypeID(keys[index]) != CFStringGetTypeID()) {
-                continue;
-            }
-            if (auto value = fromPropertyList(values[index])) {
-                result.insert_or_assign(utf8String(static_cast<CFStringRef>(keys[index])),
-                                        std::move(*value));
-            }
+            result.emplace_back(keys[index], values[index]);
         }
-        return PreferenceValue(std::move(result));
+        return result;
     }
-    return std::nullopt;
+
+    Owned makeBoolean(bool value) override {
+        return own(CFRetain(value ? kCFBooleanTrue : kCFBooleanFalse));
+    }
+    Owned makeInteger(std::int64_t value) override {
+        return own(CFNumberCreate(kCFAllocatorDefault, kCFNumberSInt64Type, &value));
+    }
+    Owned makeReal(double value) override {
+        return own(CFNumberCreate(kCFAllocatorDefault, kCFNumberDoubleType, &value));
+    }
+    Owned makeString(const std::string& value) override {
+        return own(makeCFString(value).detach());
+    }
+    Owned makeData(const PreferenceValue::Data& value) override {
+        return own(
+            CFDataCreate(kCFAllocatorDefault, value.data(), static_cast<CFIndex>(value.size())));
+    }
+    Owned makeDate(double secondsSinceReferenceDate) override {
+        return own(CFDateCreate(kCFAllocatorDefault, secondsSinceReferenceDate));
+    }
+    Owned makeArray() override {
+        return own(CFArrayCreateMutable(kCFAllocatorDefault, 0, &kCFTypeArrayCallBacks));
+    }
+    Owned makeDictionary() override {
+        return own(CFDictionaryCreateMutable(kCFAllocatorDefault, 0, &kCFTypeDictionaryKeyCallBacks,
+                                             &kCFTypeDictionaryValueCallBacks));
+    }
+    // The containers were made mutable above, with callbacks that retain what goes in.
+    void append(Object array, Object element) override {
+        CFArrayAppendValue(static_cast<CFMutableArrayRef>(const_cast<void*>(array)), element);
+    }
+    void setEntry(Object dictionary, Object key, Object value) override {
+        CFDictionarySetValue(static_cast<CFMutableDictionaryRef>(const_cast<void*>(dictionary)),
+                             key, value);
+    }
+
+private:
+    // Takes over a +1 reference; NULL stays empty, since CFRelease(NULL) crashes.
+    static Owned own(CFTypeRef created) {
+        if (!created) {
+            return nullptr;
+        }
+        return Owned(created, [](const void* held) { CFRelease(static_cast<CFTypeRef>(held)); });
+    }
+};
+
+}  // namespace
+
+std::vector<const void*> arrayValues(CFArrayRef array) {
+    std::vector<const void*> values;
+    for (CFIndex index = 0; index < CFArrayGetCount(array); ++index) {
+        values.push_back(CFArrayGetValueAtIndex(array, index));
+    }
+    return values;
+}
+
+std::optional<PreferenceValue> fromPropertyList(CFTypeRef object) {
+    return readPropertyList(CFPropertyListObjects(), object);
 }
 
 CFRef<CFPropertyListRef> toPropertyList(const PreferenceValue& value) {
-    using PropertyList = CFRef<CFPropertyListRef>;
-    switch (value.kind()) {
-        case PreferenceKind::boolean:
-            return PropertyList::retain(*value.boolean() ? kCFBooleanTrue : kCFBooleanFalse);
-        case PreferenceKind::integer: {
-            const std::int64_t integer = *value.integer();
-            return PropertyList::adopt(
-                CFNumberCreate(kCFAllocatorDefault, kCFNumberSInt64Type, &integer));
-        }
-        case PreferenceKind::real: {
-            const double real = *value.real();
-            return PropertyList::adopt(
-                CFNumberCreate(kCFAllocatorDefault, kCFNumberDoubleType, &real));
-        }
-        case PreferenceKind::string:
-            return PropertyList::adopt(makeCFString(*value.string()).detach());
-        case PreferenceKind::data: {
-            const PreferenceValue::Data& data = *value.data();
-            return PropertyList::adopt(
-                CFDataCreate(kCFAllocatorDefault, data.data(), static_cast<CFIndex>(data.size())));
-        }
-        case PreferenceKind::date:
-            return PropertyList::adopt(
-                CFDateCreate(kCFAllocatorDefault, value.date()->secondsSinceReferenceDate));
-        case PreferenceKind::array: {
-            auto array = CFRef<CFMutableArrayRef>::adopt(
-                CFArrayCreateMutable(kCFAllocatorDefault, 0, &kCFTypeArrayCallBacks));
-            if (!array) {
-                return {};
-            }
-            for (const PreferenceValue& element : *value.array()) {
-                if (const PropertyList item = toPropertyList(element)) {
-                    // The array's callbacks retain the element.
-                    CFArrayAppendValue(array.get(), item.get());
-                }
-            }
-            return PropertyList::adopt(array.detach());
-        }
-        case PreferenceKind::dictionary: {
-            auto dictionary = CFRef<CFMutableDictionaryRef>::adopt(
-                CFDictionaryCreateMutable(kCFAllocatorDefault, 0, &kCFTypeDictionaryKeyCallBacks,
-                                          &kCFTypeDictionaryValueCallBacks));
-            if (!dictionary) {
-                return {};
-            }
-            for (const auto& [key, element] : *value.dictionary()) {
-                const CFRef<CFStringRef> cfKey = makeCFString(key);
-                const PropertyList item = toPropertyList(element);
-                if (cfKey && item) {
-                    // The dictionary's callbacks retain the key and the value.
-                    CFDictionarySetValue(dictionary.get(), cfKey.get(), item.get());
-                }
-            }
-            return PropertyList::adopt(dictionary.detach());
-        }
-    }
-    return {};
+    CFPropertyListObjects objects;
+    // The holder adds its own reference before the made object's owner lets go.
+    return CFRef<CFPropertyListRef>::retain(makePropertyList(objects, value).get());
 }
 
 }  // namespace quorvane

@@ -1,11 +1,8 @@
-#if !__has_feature(objc_arc)
-#error "Compile with -fobjc-arc"
-#endif
-
 #include "mac/MacSettingsPageView.hpp"
 
 #include <cmath>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <utility>
@@ -17,7 +14,6 @@
 #include "base/Subscription.hpp"
 #include "input/ShortcutRecorder.hpp"
 #include "mac/MacActionTarget.hpp"
-#include "mac/MacStrings.hpp"
 #include "mac/MacViews.hpp"
 #include "ui/SettingsRowDisplay.hpp"
 
@@ -30,37 +26,12 @@ struct PageState {
     quorvane::Subscription changes;
 };
 
-// The row's recorder listens for the next key combination (or stops listening); a row without
-// one cannot record, and says so.
-void recordShortcut(const Row::Shortcut& row) {
-    if (row.toggleRecording) {
-        row.toggleRecording();
-    } else {
-        NSBeep();
-    }
-}
-
-NSString* sliderText(const Row::Slider& slider, double value) {
-    return slider.format ? quorvane::text(slider.format(value))
-                         : [NSString stringWithFormat:@"%g", value];
-}
-
-NSString* stepperText(const Row::Stepper& stepper, std::int64_t value) {
-    return stepper.format ? quorvane::text(stepper.format(value))
-                          : [NSString stringWithFormat:@"%lld", static_cast<long long>(value)];
-}
-
-NSControlStateValue stateValue(bool on) {
-    return on ? NSControlStateValueOn : NSControlStateValueOff;
-}
-
 }  // namespace
 
 // unconfirmed: check on a Mac first. Of the AppKit below only NSBeep is in the fact sheet:
-// NSButton (checkbox, push button, state, hasDestructiveAction), NSPopUpButton, NSSlider
-// (tick marks), NSStepper, NSTextField (placeholder, the cell's sendsActionOnEndEditing,
-// currentEditor), NSOpenPanel, NSBundle and the stack-view calls are written from Apple's
-// reference.
+// NSButton (hasDestructiveAction), NSPopUpButton, NSSlider (tick marks), NSStepper,
+// NSTextField (currentEditor), NSOpenPanel, NSBundle and the stack-view calls are written from
+// Apple's reference.
 @implementation QVSettingsPageView {
     std::unique_ptr<PageState> _state;
     CGFloat _width;
@@ -109,13 +80,11 @@ NSControlStateValue stateValue(bool on) {
     for (const auto& row : section.rows) {
         NSView* view = [self viewForRow:row];
         [column addArrangedSubview:view];
-        if (row.isVisible) {
-            const auto* isVisible = &row.isVisible;
-            // Stack views leave hidden views out of the layout.
-            [_updates addObject:^{
-              view.hidden = !(*isVisible)();
-            }];
-        }
+        const Row* shown = &row;
+        // Stack views leave hidden views out of the layout.
+        [_updates addObject:^{
+          view.hidden = !quorvane::isShown(*shown);
+        }];
     }
     if (!section.footer.empty()) {
         [column addArrangedSubview:quorvane::makeSecondaryLabel(section.footer, _width)];
@@ -138,55 +107,38 @@ NSControlStateValue stateValue(bool on) {
             [&](const Row::Note& note) -> NSView* {
                 return quorvane::makeSecondaryLabel(note.text, _width);
             },
-            [&](const Row::Warning& warning) { return [self warningRow:&warning]; },
+            [&](const Row::Warning& warning) -> NSView* {
+                return quorvane::makeWarning(
+                    quorvane::makeWrappingLabel(warning.text, _width - 24));
+            },
             [&](const Row::Button& button) { return [self buttonRow:&button]; },
             [&](const Row::Custom& custom) { return [self customRow:&custom]; },
         },
         row.kind);
 }
 
-- (NSView*)labelled:(const std::string&)label control:(NSView*)control {
-    NSStackView* row = quorvane::makeRow(8);
-    [row addArrangedSubview:quorvane::makeLabel(label)];
-    [row addArrangedSubview:control];
-    return row;
-}
-
 - (NSView*)toggleRow:(const Row::Toggle*)toggle {
-    NSButton* box = [NSButton checkboxWithTitle:quorvane::text(toggle->label)
-                                         target:nil
-                                         action:nil];
-    [QVActionTarget bind:box
-                    keep:_targets
-                 handler:^(id) {
-                   if (toggle->set) {
-                       toggle->set(box.state == NSControlStateValueOn);
-                   }
-                 }];
+    NSButton* box = quorvane::makeCheckbox(toggle->label, false, _targets, ^(bool on) {
+      if (toggle->set) {
+          toggle->set(on);
+      }
+    });
     [_updates addObject:^{
-      box.state = stateValue(toggle->get && toggle->get());
+      box.state = quorvane::stateValue(quorvane::isOn(*toggle));
     }];
     if (toggle->help.empty()) {
         return box;
     }
-    NSStackView* column = quorvane::makeColumn(2);
-    [column addArrangedSubview:box];
-    [column addArrangedSubview:quorvane::makeSecondaryLabel(toggle->help, _width)];
-    return column;
+    return quorvane::makeColumn(2, @[ box, quorvane::makeSecondaryLabel(toggle->help, _width) ]);
 }
 
 - (NSView*)choiceRow:(const Row::Choice*)choice {
     NSPopUpButton* popup = [[NSPopUpButton alloc] initWithFrame:NSZeroRect pullsDown:NO];
-    [QVActionTarget
-           bind:popup
-           keep:_targets
-        handler:^(id) {
-          const quorvane::ChoiceDisplay display = quorvane::choiceDisplay(*choice);
-          const NSInteger index = popup.indexOfSelectedItem;
-          if (choice->set && index >= 0 && static_cast<std::size_t>(index) < display.optionCount) {
-              choice->set(choice->options[static_cast<std::size_t>(index)].value);
-          }
-        }];
+    [QVActionTarget bind:popup
+                    keep:_targets
+                 handler:^(id) {
+                   quorvane::chooseItem(*choice, popup.indexOfSelectedItem);
+                 }];
     [_updates addObject:^{
       // The items change when the value matches no option (a custom equalizer) or does again.
       const quorvane::ChoiceDisplay display = quorvane::choiceDisplay(*choice);
@@ -196,7 +148,7 @@ NSControlStateValue stateValue(bool on) {
       }
       [popup selectItemAtIndex:static_cast<NSInteger>(display.selected)];
     }];
-    return [self labelled:choice->label control:popup];
+    return quorvane::makeRow(8, @[ quorvane::makeLabel(choice->label), popup ]);
 }
 
 - (NSView*)sliderRow:(const Row::Slider*)slider {
@@ -216,18 +168,15 @@ NSControlStateValue stateValue(bool on) {
                    if (slider->set) {
                        slider->set(control.doubleValue);
                    }
-                   value.stringValue = sliderText(*slider, control.doubleValue);
+                   value.stringValue =
+                       quorvane::text(quorvane::valueText(*slider, control.doubleValue));
                  }];
     [_updates addObject:^{
-      const double current = slider->get ? slider->get() : slider->minimum;
+      const double current = quorvane::currentValue(*slider);
       control.doubleValue = current;
-      value.stringValue = sliderText(*slider, current);
+      value.stringValue = quorvane::text(quorvane::valueText(*slider, current));
     }];
-    NSStackView* row = quorvane::makeRow(8);
-    [row addArrangedSubview:quorvane::makeLabel(slider->label)];
-    [row addArrangedSubview:control];
-    [row addArrangedSubview:value];
-    return row;
+    return quorvane::makeRow(8, @[ quorvane::makeLabel(slider->label), control, value ]);
 }
 
 - (NSView*)stepperRow:(const Row::Stepper*)stepper {
@@ -244,89 +193,67 @@ NSControlStateValue stateValue(bool on) {
                    if (stepper->set) {
                        stepper->set(chosen);
                    }
-                   value.stringValue = stepperText(*stepper, chosen);
+                   value.stringValue = quorvane::text(quorvane::valueText(*stepper, chosen));
                  }];
     [_updates addObject:^{
-      const std::int64_t current = stepper->get ? stepper->get() : stepper->minimum;
+      const std::int64_t current = quorvane::currentValue(*stepper);
       control.doubleValue = static_cast<double>(current);
-      value.stringValue = stepperText(*stepper, current);
+      value.stringValue = quorvane::text(quorvane::valueText(*stepper, current));
     }];
-    NSStackView* row = quorvane::makeRow(8);
-    [row addArrangedSubview:quorvane::makeLabel(stepper->label)];
-    [row addArrangedSubview:value];
-    [row addArrangedSubview:control];
-    return row;
+    return quorvane::makeRow(8, @[ quorvane::makeLabel(stepper->label), value, control ]);
 }
 
 - (NSView*)textFieldRow:(const Row::TextField*)field {
-    NSTextField* control = [NSTextField textFieldWithString:@""];
-    control.placeholderString = quorvane::text(field->placeholder);
-    // Return and leaving the field both commit the text, not every keystroke.
-    control.cell.sendsActionOnEndEditing = YES;
-    [control.widthAnchor constraintGreaterThanOrEqualToConstant:200].active = YES;
-    [QVActionTarget bind:control
-                    keep:_targets
-                 handler:^(id) {
-                   if (field->set) {
-                       field->set(quorvane::utf8String(control.stringValue));
-                   }
-                 }];
+    NSTextField* control = quorvane::makeCommittingField(field->placeholder, 200, _targets,
+                                                         ^(const std::string& text) {
+                                                           if (field->set) {
+                                                               field->set(text);
+                                                           }
+                                                         });
     [_updates addObject:^{
       // Text being typed is the user's; it is not replaced under them.
       if (control.currentEditor == nil && field->get) {
           control.stringValue = quorvane::text(field->get());
       }
     }];
-    return [self labelled:field->label control:control];
+    return quorvane::makeRow(8, @[ quorvane::makeLabel(field->label), control ]);
 }
 
 - (NSView*)shortcutRow:(const Row::Shortcut*)shortcut {
+    using Recorder = quorvane::ShortcutRecorder;
     // The recorder button shows the shortcut itself, so the combination appears once.
-    NSButton* record =
-        [NSButton buttonWithTitle:quorvane::text(quorvane::ShortcutRecorder::kEmptyTitle)
-                           target:nil
-                           action:nil];
-    [record.widthAnchor constraintEqualToConstant:quorvane::ShortcutRecorder::kButtonWidth].active =
-        YES;
-    [QVActionTarget bind:record
-                    keep:_targets
-                 handler:^(id) {
-                   recordShortcut(*shortcut);
-                 }];
-    NSButton* clear = [NSButton
-        buttonWithImage:quorvane::makeSymbolImage(quorvane::ShortcutRecorder::kClearSymbol,
-                                                  quorvane::ShortcutRecorder::kClearLabel)
-                 target:nil
-                 action:nil];
-    clear.bordered = NO;
-    clear.toolTip = quorvane::text(quorvane::ShortcutRecorder::kClearLabel);
-    [QVActionTarget bind:clear
-                    keep:_targets
-                 handler:^(id) {
-                   if (shortcut->clear) {
-                       shortcut->clear();
-                   }
-                 }];
+    NSButton* record = quorvane::makeButton(Recorder::kEmptyTitle, _targets, ^{
+      // A row without a recorder cannot record, and says so.
+      if (shortcut->toggleRecording) {
+          shortcut->toggleRecording();
+      } else {
+          NSBeep();
+      }
+    });
+    [record.widthAnchor constraintEqualToConstant:Recorder::kButtonWidth].active = YES;
+    NSButton* clear =
+        quorvane::makeSymbolButton(Recorder::kClearSymbol, Recorder::kClearLabel, _targets, ^{
+          if (shortcut->clear) {
+              shortcut->clear();
+          }
+        });
     NSTextField* conflict = quorvane::makeSecondaryLabel(shortcut->conflictNotice, _width);
-    conflict.textColor = [NSColor systemRedColor];
+    conflict.textColor = quorvane::color(quorvane::ColorRole::red);
     [_updates addObject:^{
       if (shortcut->buttonTitle) {
           record.title = quorvane::text(shortcut->buttonTitle());
       }
       clear.hidden = !quorvane::showsClearButton(*shortcut);
-      conflict.hidden = !(shortcut->hasConflict && shortcut->hasConflict());
+      conflict.hidden = !quorvane::showsConflict(*shortcut);
     }];
     NSStackView* line = quorvane::makeRow(8);
     if (!shortcut->symbol.empty()) {
         [line addArrangedSubview:quorvane::makeSymbol(shortcut->symbol, 15)];
     }
-    [line addArrangedSubview:quorvane::makeLabel(shortcut->label)];
-    [line addArrangedSubview:record];
-    [line addArrangedSubview:clear];
-    NSStackView* column = quorvane::makeColumn(2);
-    [column addArrangedSubview:line];
-    [column addArrangedSubview:conflict];
-    return column;
+    for (NSView* view in @[ quorvane::makeLabel(shortcut->label), record, clear ]) {
+        [line addArrangedSubview:view];
+    }
+    return quorvane::makeColumn(2, @[ line, conflict ]);
 }
 
 - (void)stopRecording {
@@ -334,15 +261,13 @@ NSControlStateValue stateValue(bool on) {
 }
 
 // A list of one line per entry, read again on every refresh, each entry with a remove button
-// when `remove` is given one.
+// when it has a remove action.
 - (NSView*)listTitled:(const std::string&)label
                 empty:(const std::string&)emptyText
-              entries:(std::vector<std::pair<std::string, void (^)(void)>> (^)(void))entries
+                lines:(std::function<std::vector<quorvane::ListLine>()>)read
                 extra:(NSView*)extra {
-    NSStackView* column = quorvane::makeColumn(4);
-    [column addArrangedSubview:quorvane::makeLabel(label)];
     NSStackView* lines = quorvane::makeColumn(2);
-    [column addArrangedSubview:lines];
+    NSStackView* column = quorvane::makeColumn(4, @[ quorvane::makeLabel(label), lines ]);
     if (extra) {
         [column addArrangedSubview:extra];
     }
@@ -352,24 +277,21 @@ NSControlStateValue stateValue(bool on) {
     [_updates addObject:^{
       quorvane::removeArrangedViews(lines);
       [lineTargets removeAllObjects];
-      const auto items = entries();
-      if (items.empty()) {
+      const auto entries = read();
+      if (entries.empty()) {
           [lines addArrangedSubview:quorvane::makeSecondaryLabel(empty, width)];
       }
-      for (const auto& [title, remove] : items) {
-          NSStackView* line = quorvane::makeRow(6);
-          [line addArrangedSubview:quorvane::makeLabel(title)];
-          if (remove) {
-              NSButton* button = [NSButton buttonWithTitle:@"−" target:nil action:nil];
-              void (^removeItem)(void) = remove;
-              [QVActionTarget bind:button
-                              keep:lineTargets
-                           handler:^(id) {
-                             // Removing the entry rebuilds these lines, which would free
-                             // this button and its target while this action still runs.
-                             quorvane::runSoon(removeItem);
-                           }];
-              [line addArrangedSubview:button];
+      for (const auto& entry : entries) {
+          NSStackView* line = quorvane::makeRow(6, @[ quorvane::makeLabel(entry.title) ]);
+          if (entry.remove) {
+              const std::function<void()> remove = entry.remove;
+              [line addArrangedSubview:quorvane::makeButton("−", lineTargets, ^{
+                      // Removing the entry rebuilds these lines, which would free this button
+                      // and its target while this action still runs.
+                      quorvane::runSoon(^{
+                        remove();
+                      });
+                    })];
           }
           [lines addArrangedSubview:line];
       }
@@ -378,65 +300,35 @@ NSControlStateValue stateValue(bool on) {
 }
 
 - (NSView*)appListRow:(const Row::AppList*)list {
-    NSButton* add = [NSButton buttonWithTitle:@"Add App…" target:nil action:nil];
-    [QVActionTarget bind:add
-                    keep:_targets
-                 handler:^(id) {
-                   // unconfirmed: check on a Mac first (NSOpenPanel and NSBundle are not in
-                   // the fact sheet). Applications are packages, which the panel picks as files.
-                   NSOpenPanel* panel = [NSOpenPanel openPanel];
-                   panel.canChooseFiles = YES;
-                   panel.canChooseDirectories = NO;
-                   panel.allowsMultipleSelection = NO;
-                   panel.directoryURL = [NSURL fileURLWithPath:@"/Applications" isDirectory:YES];
-                   panel.prompt = @"Add";
-                   if ([panel runModal] != NSModalResponseOK || !list->add) {
-                       return;
-                   }
-                   NSString* bundleID = [NSBundle bundleWithURL:panel.URL].bundleIdentifier;
-                   if (bundleID) {
-                       list->add(quorvane::utf8String(bundleID));
-                   } else {
-                       NSBeep();
-                   }
-                 }];
-    return [self
-        listTitled:list->label
-             empty:list->emptyText
-           entries:^{
-             std::vector<std::pair<std::string, void (^)(void)>> entries;
-             for (const auto& app : list->items ? list->items() : std::vector<Row::AppEntry>{}) {
-                 const std::string bundleID = app.bundleID;
-                 void (^remove)(void) = nil;
-                 if (list->remove) {
-                     remove = ^{
-                       list->remove(bundleID);
-                     };
-                 }
-                 entries.emplace_back(app.name.empty() ? app.bundleID : app.name, remove);
-             }
-             return entries;
-           }
-             extra:add];
+    NSButton* add = quorvane::makeButton("Add App…", _targets, ^{
+      // unconfirmed: check on a Mac first (NSOpenPanel and NSBundle are not in the fact
+      // sheet). Applications are packages, which the panel picks as files.
+      NSOpenPanel* panel = [NSOpenPanel openPanel];
+      panel.canChooseFiles = YES;
+      panel.canChooseDirectories = NO;
+      panel.allowsMultipleSelection = NO;
+      panel.directoryURL = [NSURL fileURLWithPath:@"/Applications" isDirectory:YES];
+      panel.prompt = @"Add";
+      if ([panel runModal] != NSModalResponseOK || !list->add) {
+          return;
+      }
+      NSString* bundleID = [NSBundle bundleWithURL:panel.URL].bundleIdentifier;
+      if (bundleID) {
+          list->add(quorvane::utf8String(bundleID));
+      } else {
+          NSBeep();
+      }
+    });
+    return [self listTitled:list->label
+                      empty:list->emptyText
+                      lines:[list] { return quorvane::listLines(*list); }
+                      extra:add];
 }
 
 - (NSView*)itemListRow:(const Row::ItemList*)list {
     return [self listTitled:list->label
                       empty:list->emptyText
-                    entries:^{
-                      std::vector<std::pair<std::string, void (^)(void)>> entries;
-                      const auto items = list->items ? list->items() : std::vector<std::string>{};
-                      for (std::size_t index = 0; index < items.size(); ++index) {
-                          void (^remove)(void) = nil;
-                          if (list->remove) {
-                              remove = ^{
-                                list->remove(index);
-                              };
-                          }
-                          entries.emplace_back(items[index], remove);
-                      }
-                      return entries;
-                    }
+                      lines:[list] { return quorvane::listLines(*list); }
                       extra:nil];
 }
 
@@ -444,105 +336,61 @@ NSControlStateValue stateValue(bool on) {
 // user's typing would take the field they are typing in away from them. Otherwise each refresh
 // puts the values into the fields that are not being edited and updates the warnings.
 - (NSView*)editableListRow:(const Row::EditableList*)list {
-    NSStackView* column = quorvane::makeColumn(6);
     NSStackView* lines = quorvane::makeColumn(6);
-    [column addArrangedSubview:lines];
-    NSButton* add = [NSButton buttonWithTitle:quorvane::text(list->addTitle) target:nil action:nil];
-    [QVActionTarget bind:add
-                    keep:_targets
-                 handler:^(id) {
-                   if (list->add) {
-                       list->add();
-                   }
-                 }];
-    [column addArrangedSubview:add];
+    NSButton* add = quorvane::makeButton(list->addTitle, _targets, ^{
+      if (list->add) {
+          list->add();
+      }
+    });
+    NSStackView* column = quorvane::makeColumn(6, @[ lines, add ]);
     NSMutableArray* lineTargets = [NSMutableArray array];
     NSMutableArray<NSTextField*>* keys = [NSMutableArray array];
     NSMutableArray<NSTextField*>* values = [NSMutableArray array];
     NSMutableArray<NSView*>* warnings = [NSMutableArray array];
     NSMutableArray<NSTextField*>* warningTexts = [NSMutableArray array];
     const CGFloat width = _width;
-    // Commits a field's text when the user presses Return or leaves the field.
-    NSTextField* (^field)(const std::string&, CGFloat, void (^)(NSString*)) = ^NSTextField*(
-        const std::string& placeholder, CGFloat minimumWidth, void (^commit)(NSString*)) {
-        NSTextField* control = [NSTextField textFieldWithString:@""];
-        control.placeholderString = quorvane::text(placeholder);
-        control.cell.sendsActionOnEndEditing = YES;
-        [control.widthAnchor constraintGreaterThanOrEqualToConstant:minimumWidth].active = YES;
-        [QVActionTarget bind:control
-                        keep:lineTargets
-                     handler:^(id) {
-                       commit(control.stringValue);
-                     }];
-        return control;
-    };
     [_updates addObject:^{
       const auto entries = list->entries ? list->entries() : std::vector<Row::EditableEntry>{};
       if (entries.size() != keys.count) {
           quorvane::removeArrangedViews(lines);
-          [lineTargets removeAllObjects];
-          [keys removeAllObjects];
-          [values removeAllObjects];
-          [warnings removeAllObjects];
-          [warningTexts removeAllObjects];
+          for (NSMutableArray* array in @[ lineTargets, keys, values, warnings, warningTexts ]) {
+              [array removeAllObjects];
+          }
           for (std::size_t index = 0; index < entries.size(); ++index) {
-              NSTextField* key = field(list->keyPlaceholder, 90, ^(NSString* text) {
-                if (list->setKey) {
-                    list->setKey(index, quorvane::utf8String(text));
-                }
-              });
-              NSTextField* value = field(list->valuePlaceholder, 220, ^(NSString* text) {
-                if (list->setValue) {
-                    list->setValue(index, quorvane::utf8String(text));
-                }
-              });
-              NSStackView* line = quorvane::makeRow(6);
-              [line addArrangedSubview:key];
-              [line addArrangedSubview:value];
+              NSTextField* key = quorvane::makeCommittingField(
+                  list->keyPlaceholder, 90, lineTargets, ^(const std::string& text) {
+                    if (list->setKey) {
+                        list->setKey(index, text);
+                    }
+                  });
+              NSTextField* value = quorvane::makeCommittingField(
+                  list->valuePlaceholder, 220, lineTargets, ^(const std::string& text) {
+                    if (list->setValue) {
+                        list->setValue(index, text);
+                    }
+                  });
+              NSStackView* line = quorvane::makeRow(6, @[ key, value ]);
               if (list->move) {
-                  NSButton* up = [NSButton buttonWithTitle:@"↑" target:nil action:nil];
-                  up.enabled = index > 0;
-                  [QVActionTarget bind:up
-                                  keep:lineTargets
-                               handler:^(id) {
-                                 list->move(index, index - 1);
-                               }];
-                  NSButton* down = [NSButton buttonWithTitle:@"↓" target:nil action:nil];
-                  down.enabled = index + 1 < entries.size();
-                  [QVActionTarget bind:down
-                                  keep:lineTargets
-                               handler:^(id) {
-                                 list->move(index, index + 1);
-                               }];
-                  [line addArrangedSubview:up];
-                  [line addArrangedSubview:down];
+                  for (const auto& [title, offset] : {std::pair{"↑", -1}, std::pair{"↓", 1}}) {
+                      const auto target = quorvane::moveTarget(index, entries.size(), offset);
+                      NSButton* move = quorvane::makeButton(title, lineTargets, ^{
+                        if (target) {
+                            list->move(index, *target);
+                        }
+                      });
+                      move.enabled = target.has_value();
+                      [line addArrangedSubview:move];
+                  }
               }
-              NSButton* remove = [NSButton
-                  buttonWithImage:[NSImage
-                                      imageWithSystemSymbolName:quorvane::text(list->removeSymbol)
-                                       accessibilityDescription:@"Remove"]
-                           target:nil
-                           action:nil];
-              remove.bordered = NO;
-              [QVActionTarget bind:remove
-                              keep:lineTargets
-                           handler:^(id) {
-                             if (list->remove) {
-                                 list->remove(index);
-                             }
-                           }];
-              [line addArrangedSubview:remove];
-              NSImageView* icon = quorvane::makeSymbol("exclamationmark.triangle.fill", 13);
-              icon.contentTintColor = [NSColor systemOrangeColor];
+              [line addArrangedSubview:quorvane::makeSymbolButton(list->removeSymbol, "Remove",
+                                                                  lineTargets, ^{
+                                                                    if (list->remove) {
+                                                                        list->remove(index);
+                                                                    }
+                                                                  })];
               NSTextField* warningText = quorvane::makeWrappingLabel("", width - 24);
-              NSStackView* warning = quorvane::makeRow(6);
-              warning.alignment = NSLayoutAttributeTop;
-              [warning addArrangedSubview:icon];
-              [warning addArrangedSubview:warningText];
-              NSStackView* entry = quorvane::makeColumn(2);
-              [entry addArrangedSubview:line];
-              [entry addArrangedSubview:warning];
-              [lines addArrangedSubview:entry];
+              NSStackView* warning = quorvane::makeWarning(warningText);
+              [lines addArrangedSubview:quorvane::makeColumn(2, @[ line, warning ])];
               [keys addObject:key];
               [values addObject:value];
               [warnings addObject:warning];
@@ -564,28 +412,13 @@ NSControlStateValue stateValue(bool on) {
     return column;
 }
 
-- (NSView*)warningRow:(const Row::Warning*)warning {
-    NSImageView* icon = quorvane::makeSymbol("exclamationmark.triangle.fill", 13);
-    icon.contentTintColor = [NSColor systemOrangeColor];
-    NSStackView* row = quorvane::makeRow(6);
-    row.alignment = NSLayoutAttributeTop;
-    [row addArrangedSubview:icon];
-    [row addArrangedSubview:quorvane::makeWrappingLabel(warning->text, _width - 24)];
-    return row;
-}
-
 - (NSView*)buttonRow:(const Row::Button*)button {
-    NSButton* control = [NSButton buttonWithTitle:quorvane::text(button->title)
-                                           target:nil
-                                           action:nil];
+    NSButton* control = quorvane::makeButton(button->title, _targets, ^{
+      if (button->action) {
+          button->action();
+      }
+    });
     control.hasDestructiveAction = button->role == Row::ButtonRole::destructive;
-    [QVActionTarget bind:control
-                    keep:_targets
-                 handler:^(id) {
-                   if (button->action) {
-                       button->action();
-                   }
-                 }];
     return control;
 }
 
@@ -593,7 +426,7 @@ NSControlStateValue stateValue(bool on) {
     // A custom row's own view is drawn by its tool; what every page can show is its summary.
     NSTextField* label = quorvane::makeWrappingLabel("", _width);
     [_updates addObject:^{
-      label.stringValue = quorvane::text(custom->summary ? custom->summary() : custom->name);
+      label.stringValue = quorvane::text(quorvane::customText(*custom));
     }];
     return label;
 }

@@ -1,7 +1,3 @@
-#if !__has_feature(objc_arc)
-#error "Compile with -fobjc-arc"
-#endif
-
 #include "mac/MacSettingsWindow.hpp"
 
 #include <cstdint>
@@ -12,7 +8,6 @@
 #include "mac/MacRefresher.hpp"
 #include "mac/MacPermissionCardView.hpp"
 #include "mac/MacSettingsPageView.hpp"
-#include "mac/MacStrings.hpp"
 #include "mac/MacViews.hpp"
 #include "ui/SettingsWindowModel.hpp"
 
@@ -23,10 +18,6 @@ using SidebarKind = Model::SidebarRow::Kind;
 
 constexpr CGFloat kSidebarWidth = 230;
 constexpr CGFloat kPageWidth = 520;
-
-NSControlStateValue stateValue(bool on) {
-    return on ? NSControlStateValueOn : NSControlStateValueOff;
-}
 
 }  // namespace
 
@@ -79,13 +70,11 @@ NSControlStateValue stateValue(bool on) {
     };
 
     // The sidebar keeps its width; the page takes the rest, and both the full height.
-    NSStackView* root = quorvane::makeRow(0);
-    root.alignment = NSLayoutAttributeTop;
-    root.distribution = NSStackViewDistributionFill;
     NSView* sidebar = [self makeSidebar];
     NSView* page = [self makePage];
-    [root addArrangedSubview:sidebar];
-    [root addArrangedSubview:page];
+    NSStackView* root = quorvane::makeRow(0, @[ sidebar, page ]);
+    root.alignment = NSLayoutAttributeTop;
+    root.distribution = NSStackViewDistributionFill;
     [window.contentView addSubview:root];
     quorvane::pinEdges(root, window.contentView, 0);
     [NSLayoutConstraint activateConstraints:@[
@@ -131,13 +120,10 @@ NSControlStateValue stateValue(bool on) {
 
     _noResults = quorvane::makeSecondaryLabel(Model::kNoResults, kSidebarWidth - 24);
 
-    NSStackView* sidebar = quorvane::makeColumn(8);
+    NSStackView* sidebar = quorvane::makeColumn(8, @[ _search, _noResults, list ]);
     sidebar.edgeInsets = NSEdgeInsetsMake(12, 12, 12, 0);
     // The list takes whatever height the search field and the notice leave.
     sidebar.distribution = NSStackViewDistributionFill;
-    [sidebar addArrangedSubview:_search];
-    [sidebar addArrangedSubview:_noResults];
-    [sidebar addArrangedSubview:list];
     [NSLayoutConstraint activateConstraints:@[
         [sidebar.widthAnchor constraintEqualToConstant:kSidebarWidth],
         [_search.widthAnchor constraintEqualToConstant:kSidebarWidth - 12],
@@ -151,11 +137,8 @@ NSControlStateValue stateValue(bool on) {
     _header = quorvane::makeColumn(10);
     _cards = quorvane::makeColumn(12);
     _pageHolder = quorvane::makeColumn(0);
-    NSStackView* content = quorvane::makeColumn(24);
-    [content addArrangedSubview:_header];
-    [content addArrangedSubview:_cards];
-    [content addArrangedSubview:_pageHolder];
-    return quorvane::makeScrollView(content, 24);
+    return quorvane::makeScrollView(quorvane::makeColumn(24, @[ _header, _cards, _pageHolder ]),
+                                    24);
 }
 
 - (void)refresh {
@@ -197,19 +180,19 @@ NSControlStateValue stateValue(bool on) {
     const Model::Header header = _model->header();
     Model* model = _model;
 
-    NSStackView* titleColumn = quorvane::makeColumn(4);
-    [titleColumn addArrangedSubview:quorvane::makeHeading(header.title, 20)];
-    [titleColumn addArrangedSubview:quorvane::makeWrappingLabel(header.summary, kPageWidth - 60)];
+    NSStackView* titleColumn = quorvane::makeColumn(4, @[
+        quorvane::makeHeading(header.title, 20),
+        quorvane::makeWrappingLabel(header.summary, kPageWidth - 60),
+    ]);
     if (!header.status.empty()) {
         [titleColumn addArrangedSubview:quorvane::makeSecondaryLabel(header.status, kPageWidth)];
     }
-    NSStackView* top = quorvane::makeRow(12);
+    NSStackView* top =
+        quorvane::makeRow(12, @[ quorvane::makeSymbol(header.systemImage, 28), titleColumn ]);
     top.alignment = NSLayoutAttributeTop;
-    [top addArrangedSubview:quorvane::makeSymbol(header.systemImage, 28)];
-    [top addArrangedSubview:titleColumn];
     if (header.hasSwitch) {
         NSSwitch* toggle = [[NSSwitch alloc] initWithFrame:NSZeroRect];
-        toggle.state = stateValue(header.isOn);
+        toggle.state = quorvane::stateValue(header.isOn);
         toggle.enabled = header.isSwitchable;
         [QVActionTarget bind:toggle
                         keep:_headerTargets
@@ -221,16 +204,10 @@ NSControlStateValue stateValue(bool on) {
     [_header addArrangedSubview:top];
 
     if (header.hasMenuToggle) {
-        NSButton* inMenu = [NSButton checkboxWithTitle:quorvane::text(Model::kShowInMenuLabel)
-                                                target:nil
-                                                action:nil];
-        inMenu.state = stateValue(header.isInMenu);
-        [QVActionTarget bind:inMenu
-                        keep:_headerTargets
-                     handler:^(id) {
-                       model->setInMenu(inMenu.state == NSControlStateValueOn);
-                     }];
-        [_header addArrangedSubview:inMenu];
+        [_header addArrangedSubview:quorvane::makeCheckbox(Model::kShowInMenuLabel, header.isInMenu,
+                                                           _headerTargets, ^(bool on) {
+                                                             model->setInMenu(on);
+                                                           })];
     }
 }
 
@@ -247,21 +224,17 @@ NSControlStateValue stateValue(bool on) {
     const Model::SidebarRow& entry = _rows[static_cast<std::size_t>(row)];
     if (entry.kind == SidebarKind::category) {
         NSTextField* heading = quorvane::makeHeading(entry.title, 11);
-        heading.textColor = [NSColor secondaryLabelColor];
+        heading.textColor = quorvane::color(entry.titleColor());
         return heading;
     }
-    NSStackView* line = quorvane::makeRow(6);
-    [line addArrangedSubview:quorvane::makeSymbol(entry.systemImage, 13)];
     NSTextField* name = quorvane::makeLabel(entry.title);
     name.lineBreakMode = NSLineBreakByTruncatingTail;
-    if (!entry.isAvailable) {
-        name.textColor = [NSColor tertiaryLabelColor];
-    }
-    [line addArrangedSubview:name];
+    name.textColor = quorvane::color(entry.titleColor());
+    NSStackView* line =
+        quorvane::makeRow(6, @[ quorvane::makeSymbol(entry.systemImage, 13), name ]);
     if (entry.isOn) {
-        NSImageView* on = quorvane::makeSymbol("circle.fill", 7);
-        on.contentTintColor = [NSColor systemGreenColor];
-        [line addArrangedSubview:on];
+        [line addArrangedSubview:quorvane::makeSymbol(Model::kOnIndicator, 7,
+                                                      Model::kOnIndicatorColor)];
     }
     return line;
 }

@@ -14,6 +14,8 @@ namespace quorvane {
 CFRef<CFStringRef> makeCFString(std::string_view utf8);
 // nil when the bytes are not valid UTF-8.
 NSString* makeNSString(std::string_view utf8);
+// For AppKit, which refuses nil: text that is not UTF-8 becomes empty.
+NSString* text(std::string_view utf8);
 
 // Empty for NULL or nil. A lone UTF-16 surrogate, which UTF-8 cannot carry, comes out as '?'.
 std::string utf8String(CFStringRef string);

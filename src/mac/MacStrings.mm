@@ -1,7 +1,3 @@
-#if !__has_feature(objc_arc)
-#error "Compile with -fobjc-arc"
-#endif
-
 #include "mac/MacStrings.hpp"
 
 #include <cstddef>
@@ -21,6 +17,11 @@ CFRef<CFStringRef> makeCFString(std::string_view utf8) {
 NSString* makeNSString(std::string_view utf8) {
     // CFBridgingRelease hands the +1 string to ARC, and gives nil for NULL.
     return CFBridgingRelease(makeCFString(utf8).detach());
+}
+
+NSString* text(std::string_view utf8) {
+    NSString* string = makeNSString(utf8);
+    return string ? string : @"";
 }
 
 std::string utf8String(CFStringRef string) {

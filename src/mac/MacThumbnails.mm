@@ -1,19 +1,15 @@
-#if !__has_feature(objc_arc)
-#error "Compile with -fobjc-arc"
-#endif
-
 #include "mac/MacThumbnails.hpp"
 
 #include "mac/CFRef.hpp"
 #include "mac/MacFrameworks.h"
+#include "mac/MacStrings.hpp"
 
 namespace quorvane {
 
 std::optional<Thumbnail> MacThumbnails::make(const std::string& path, int maxPixelSize) {
     @autoreleasepool {
-        // unconfirmed: check on a Mac first (+fileURLWithPath: and -initWithUTF8String: are not
-        // in the fact sheet).
-        NSURL* url = [NSURL fileURLWithPath:[[NSString alloc] initWithUTF8String:path.c_str()]];
+        // unconfirmed: check on a Mac first (+fileURLWithPath: is not in the fact sheet).
+        NSURL* url = [NSURL fileURLWithPath:text(path)];
         const auto source = CFRef<CGImageSourceRef>::adopt(
             CGImageSourceCreateWithURL((__bridge CFURLRef)url, nullptr));
         if (!source) {

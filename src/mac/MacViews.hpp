@@ -1,15 +1,19 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 
+#include "base/ColorRole.hpp"
 #include "mac/MacFrameworks.h"
+#include "mac/MacStrings.hpp"
 
 namespace quorvane {
 
-// The few view-building steps every Quorvane window and panel repeats.
+// The few view-building steps every Quorvane window and panel repeats. Controls run a block
+// when used; their targets go into `keep`, which must live as long as the control.
 
-// AppKit refuses nil text, so text that is not UTF-8 shows as empty instead.
-NSString* text(std::string_view utf8);
+NSColor* color(ColorRole role);
+NSControlStateValue stateValue(bool on);
 
 NSTextField* makeLabel(std::string_view utf8);
 NSTextField* makeHeading(std::string_view utf8, CGFloat size);
@@ -20,15 +24,29 @@ NSTextField* makeSecondaryLabel(std::string_view utf8, CGFloat width);
 NSTextField* makeStyledLabel(std::string_view utf8, CGFloat width);
 // Empty when the symbol does not exist on this system.
 NSImageView* makeSymbol(std::string_view systemImage, CGFloat pointSize);
+NSImageView* makeSymbol(std::string_view systemImage, CGFloat pointSize, ColorRole tint);
 // A symbol image described for VoiceOver; nil when the symbol does not exist on this system.
 NSImage* makeSymbolImage(std::string_view systemImage, std::string_view description);
 
-NSStackView* makeColumn(CGFloat spacing);
-NSStackView* makeRow(CGFloat spacing);
+// Stacks holding `views` in order.
+NSStackView* makeColumn(CGFloat spacing, NSArray<NSView*>* views = nil);
+NSStackView* makeRow(CGFloat spacing, NSArray<NSView*>* views = nil);
 void removeArrangedViews(NSStackView* stack);
 // A vertical scroller whose content starts at the top and is as wide as the visible area.
 NSScrollView* makeScrollView(NSView* content, CGFloat inset);
 void pinEdges(NSView* view, NSView* container, CGFloat inset);
+
+NSButton* makeButton(std::string_view title, NSMutableArray* keep, void (^action)(void));
+// Borderless; the description is read by VoiceOver and shown as the tool tip.
+NSButton* makeSymbolButton(std::string_view systemImage, std::string_view description,
+                           NSMutableArray* keep, void (^action)(void));
+NSButton* makeCheckbox(std::string_view title, bool on, NSMutableArray* keep,
+                       void (^changed)(bool on));
+// Commits its text when the user presses Return or leaves the field, not on every keystroke.
+NSTextField* makeCommittingField(std::string_view placeholder, CGFloat minimumWidth,
+                                 NSMutableArray* keep, void (^commit)(const std::string& text));
+// The warning triangle with `label` beside it, wrapping.
+NSStackView* makeWarning(NSTextField* label);
 
 // Runs the block on the main loop after the current event, so a view is never rebuilt from
 // inside one of its own controls' actions.

@@ -1,10 +1,6 @@
-#if !__has_feature(objc_arc)
-#error "Compile with -fobjc-arc"
-#endif
-
 #include "mac/MacViews.hpp"
 
-#include "mac/MacStrings.hpp"
+#include "mac/MacActionTarget.hpp"
 #include "ui/StyledText.hpp"
 
 // A scroll view's document view draws from the bottom unless it is flipped.
@@ -19,13 +15,33 @@
 
 // unconfirmed: check on a Mac first. Nothing in this file is in the fact sheet: NSTextField's
 // label constructors and text properties, NSFont, NSColor, NSImage's symbol constructor and
-// NSImageSymbolConfiguration, NSImageView, NSStackView, NSScrollView, the layout anchors and
-// dispatch_async on the main queue are written from Apple's reference.
+// NSImageSymbolConfiguration, NSImageView, NSStackView, NSScrollView, NSButton's constructors
+// and state, the text field's cell, the layout anchors and dispatch_async on the main queue
+// are written from Apple's reference.
 namespace quorvane {
 
-NSString* text(std::string_view utf8) {
-    NSString* string = makeNSString(utf8);
-    return string ? string : @"";
+NSColor* color(ColorRole role) {
+    switch (role) {
+        case ColorRole::label:
+            return [NSColor labelColor];
+        case ColorRole::secondaryLabel:
+            return [NSColor secondaryLabelColor];
+        case ColorRole::tertiaryLabel:
+            return [NSColor tertiaryLabelColor];
+        case ColorRole::accent:
+            return [NSColor controlAccentColor];
+        case ColorRole::green:
+            return [NSColor systemGreenColor];
+        case ColorRole::orange:
+            return [NSColor systemOrangeColor];
+        case ColorRole::red:
+            return [NSColor systemRedColor];
+    }
+    return [NSColor labelColor];
+}
+
+NSControlStateValue stateValue(bool on) {
+    return on ? NSControlStateValueOn : NSControlStateValueOff;
 }
 
 NSTextField* makeLabel(std::string_view utf8) { return [NSTextField labelWithString:text(utf8)]; }
@@ -83,11 +99,17 @@ NSImageView* makeSymbol(std::string_view systemImage, CGFloat pointSize) {
     return view;
 }
 
+NSImageView* makeSymbol(std::string_view systemImage, CGFloat pointSize, ColorRole tint) {
+    NSImageView* view = makeSymbol(systemImage, pointSize);
+    view.contentTintColor = color(tint);
+    return view;
+}
+
 namespace {
 
 NSStackView* makeStack(NSUserInterfaceLayoutOrientation orientation, NSLayoutAttribute alignment,
-                       CGFloat spacing) {
-    NSStackView* stack = [NSStackView stackViewWithViews:@[]];
+                       CGFloat spacing, NSArray<NSView*>* views) {
+    NSStackView* stack = [NSStackView stackViewWithViews:views ? views : @[]];
     stack.orientation = orientation;
     stack.alignment = alignment;
     stack.spacing = spacing;
@@ -96,12 +118,14 @@ NSStackView* makeStack(NSUserInterfaceLayoutOrientation orientation, NSLayoutAtt
 
 }  // namespace
 
-NSStackView* makeColumn(CGFloat spacing) {
-    return makeStack(NSUserInterfaceLayoutOrientationVertical, NSLayoutAttributeLeading, spacing);
+NSStackView* makeColumn(CGFloat spacing, NSArray<NSView*>* views) {
+    return makeStack(NSUserInterfaceLayoutOrientationVertical, NSLayoutAttributeLeading, spacing,
+                     views);
 }
 
-NSStackView* makeRow(CGFloat spacing) {
-    return makeStack(NSUserInterfaceLayoutOrientationHorizontal, NSLayoutAttributeCenterY, spacing);
+NSStackView* makeRow(CGFloat spacing, NSArray<NSView*>* views) {
+    return makeStack(NSUserInterfaceLayoutOrientationHorizontal, NSLayoutAttributeCenterY, spacing,
+                     views);
 }
 
 void removeArrangedViews(NSStackView* stack) {
@@ -138,6 +162,66 @@ NSScrollView* makeScrollView(NSView* content, CGFloat inset) {
         [document.trailingAnchor constraintEqualToAnchor:clip.trailingAnchor],
     ]];
     return scroll;
+}
+
+NSButton* makeButton(std::string_view title, NSMutableArray* keep, void (^action)(void)) {
+    NSButton* button = [NSButton buttonWithTitle:text(title) target:nil action:nil];
+    [QVActionTarget bind:button
+                    keep:keep
+                 handler:^(id) {
+                   action();
+                 }];
+    return button;
+}
+
+NSButton* makeSymbolButton(std::string_view systemImage, std::string_view description,
+                           NSMutableArray* keep, void (^action)(void)) {
+    NSButton* button = [NSButton buttonWithImage:makeSymbolImage(systemImage, description)
+                                          target:nil
+                                          action:nil];
+    button.bordered = NO;
+    button.toolTip = text(description);
+    [QVActionTarget bind:button
+                    keep:keep
+                 handler:^(id) {
+                   action();
+                 }];
+    return button;
+}
+
+NSButton* makeCheckbox(std::string_view title, bool on, NSMutableArray* keep,
+                       void (^changed)(bool on)) {
+    NSButton* box = [NSButton checkboxWithTitle:text(title) target:nil action:nil];
+    box.state = stateValue(on);
+    [QVActionTarget bind:box
+                    keep:keep
+                 handler:^(id sender) {
+                   changed(static_cast<NSButton*>(sender).state == NSControlStateValueOn);
+                 }];
+    return box;
+}
+
+NSTextField* makeCommittingField(std::string_view placeholder, CGFloat minimumWidth,
+                                 NSMutableArray* keep, void (^commit)(const std::string& text)) {
+    NSTextField* field = [NSTextField textFieldWithString:@""];
+    field.placeholderString = text(placeholder);
+    field.cell.sendsActionOnEndEditing = YES;
+    [field.widthAnchor constraintGreaterThanOrEqualToConstant:minimumWidth].active = YES;
+    [QVActionTarget bind:field
+                    keep:keep
+                 handler:^(id sender) {
+                   commit(utf8String(static_cast<NSTextField*>(sender).stringValue));
+                 }];
+    return field;
+}
+
+NSStackView* makeWarning(NSTextField* label) {
+    NSStackView* row = makeRow(6, @[
+        makeSymbol("exclamationmark.triangle.fill", 13, ColorRole::orange),
+        label,
+    ]);
+    row.alignment = NSLayoutAttributeTop;
+    return row;
 }
 
 void runSoon(void (^block)(void)) { dispatch_async(dispatch_get_main_queue(), block); }

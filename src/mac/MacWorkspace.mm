@@ -1,7 +1,3 @@
-#if !__has_feature(objc_arc)
-#error "Compile with -fobjc-arc"
-#endif
-
 #include "mac/MacWorkspace.hpp"
 
 #include <cassert>
@@ -9,6 +5,7 @@
 
 #include "mac/CancellableHandler.hpp"
 #include "mac/MacFrameworks.h"
+#include "mac/MacObservation.hpp"
 #include "mac/MacStrings.hpp"
 
 namespace quorvane {
@@ -55,49 +52,15 @@ NSNotificationName notificationName(WorkspaceNotification notification) {
 
 }  // namespace quorvane
 
-// Key-value observation needs an object that answers observeValueForKeyPath:; it only relays.
-@interface QuorvaneRunningApplicationsObserver : NSObject
-- (instancetype)initWithHandler:(std::function<void()>)handler;
-@end
-
-@implementation QuorvaneRunningApplicationsObserver {
-    std::function<void()> _handler;
-}
-
-- (instancetype)initWithHandler:(std::function<void()>)handler {
-    if ((self = [super init])) {
-        _handler = std::move(handler);
-    }
-    return self;
-}
-
-- (void)observeValueForKeyPath:(NSString*)keyPath
-                      ofObject:(id)object
-                        change:(NSDictionary<NSKeyValueChangeKey, id>*)change
-                       context:(void*)context {
-    (void)keyPath;
-    (void)object;
-    (void)change;
-    (void)context;
-    // Changes of the list are posted on the main thread.
-    // unconfirmed: check on a Mac first that the workspace sends them on the main thread.
-    assert([NSThread isMainThread]);
-    if (_handler) {
-        _handler();
-    }
-}
-
-@end
-
-// The distributed centre's suspension choice exists only on the selector-based observer, so
-// this object relays to the handler.
-@interface QuorvaneDistributedRelay : NSObject
+// Key-value observation and the distributed centre's choice of suspension both need an object
+// that answers a message; this one only relays to its handler, until the handler is cancelled.
+@interface QuorvaneRelay : NSObject
 - (instancetype)initWithHandler:
     (std::shared_ptr<quorvane::CancellableHandler<std::function<void()>>>)handler;
 - (void)deliver:(NSNotification*)notification;
 @end
 
-@implementation QuorvaneDistributedRelay {
+@implementation QuorvaneRelay {
     std::shared_ptr<quorvane::CancellableHandler<std::function<void()>>> _handler;
 }
 
@@ -111,12 +74,25 @@ NSNotificationName notificationName(WorkspaceNotification notification) {
 
 - (void)deliver:(NSNotification*)notification {
     (void)notification;
+    // unconfirmed: check on a Mac first that the workspace sends its key-value changes on the
+    // main thread; distributed posts arrive on the main thread's run loop.
     assert([NSThread isMainThread]);
     // The handler may end this subscription; the local copy keeps it alive until it returns.
     const auto running = _handler;
     if (!running->cancelled) {
         running->handler();
     }
+}
+
+- (void)observeValueForKeyPath:(NSString*)keyPath
+                      ofObject:(id)object
+                        change:(NSDictionary<NSKeyValueChangeKey, id>*)change
+                       context:(void*)context {
+    (void)keyPath;
+    (void)object;
+    (void)change;
+    (void)context;
+    [self deliver:nil];
 }
 
 @end
@@ -185,32 +161,18 @@ bool MacWorkspace::activate(int pid) {
 
 Subscription MacWorkspace::observe(WorkspaceNotification notification, Handler handler) {
     @autoreleasepool {
-        auto observer = std::make_shared<CancellableHandler<Handler>>(std::move(handler));
         // Workspace notifications go to the workspace's own centre, not the default one.
-        NSNotificationCenter* center = [[NSWorkspace sharedWorkspace] notificationCenter];
-        id<NSObject> token =
-            [center addObserverForName:notificationName(notification)
-                                object:nil
-                                 queue:[NSOperationQueue mainQueue]
-                            usingBlock:^(NSNotification* note) {
-                              assert([NSThread isMainThread]);
-                              // The handler may end this subscription, which can free this block.
-                              const auto running = observer;
-                              if (running->cancelled) {
-                                  return;
-                              }
-                              id app = note.userInfo[NSWorkspaceApplicationKey];
-                              if ([app isKindOfClass:[NSRunningApplication class]]) {
-                                  const RunningApplication described = describe(app);
-                                  running->handler(&described);
-                              } else {
-                                  running->handler(nullptr);
-                              }
-                            }];
-        return Subscription([observer, token] {
-            observer->cancelled = true;
-            [[[NSWorkspace sharedWorkspace] notificationCenter] removeObserver:token];
-        });
+        return observeOnMainQueue([[NSWorkspace sharedWorkspace] notificationCenter],
+                                  notificationName(notification), nil,
+                                  [handler = std::move(handler)](NSNotification* note) {
+                                      id app = note.userInfo[NSWorkspaceApplicationKey];
+                                      if ([app isKindOfClass:[NSRunningApplication class]]) {
+                                          const RunningApplication described = describe(app);
+                                          handler(&described);
+                                      } else {
+                                          handler(nullptr);
+                                      }
+                                  });
     }
 }
 
@@ -223,8 +185,7 @@ Subscription MacWorkspace::observeDistributed(const std::string& name,
         }
         auto observer =
             std::make_shared<CancellableHandler<std::function<void()>>>(std::move(handler));
-        QuorvaneDistributedRelay* relay =
-            [[QuorvaneDistributedRelay alloc] initWithHandler:observer];
+        QuorvaneRelay* relay = [[QuorvaneRelay alloc] initWithHandler:observer];
         // An accessory app is almost never active, and an inactive app's distributed
         // notifications are held back and coalesced by default; the ones observed here (a
         // screen unlocked) matter when they happen, so they are delivered at once.
@@ -247,8 +208,9 @@ Subscription MacWorkspace::observeDistributed(const std::string& name,
 
 Subscription MacWorkspace::observeRunningApplications(std::function<void()> handler) {
     @autoreleasepool {
-        QuorvaneRunningApplicationsObserver* relay =
-            [[QuorvaneRunningApplicationsObserver alloc] initWithHandler:std::move(handler)];
+        auto observer =
+            std::make_shared<CancellableHandler<std::function<void()>>>(std::move(handler));
+        QuorvaneRelay* relay = [[QuorvaneRelay alloc] initWithHandler:observer];
         // unconfirmed: check on a Mac first (key-value observation of runningApplications and
         // -removeObserver:forKeyPath: are not in the fact sheet).
         [[NSWorkspace sharedWorkspace] addObserver:relay
@@ -256,7 +218,8 @@ Subscription MacWorkspace::observeRunningApplications(std::function<void()> hand
                                            options:NSKeyValueObservingOptionNew
                                            context:nullptr];
         // The block keeps the relay alive until the observation is removed.
-        return Subscription([relay] {
+        return Subscription([observer, relay] {
+            observer->cancelled = true;
             [[NSWorkspace sharedWorkspace] removeObserver:relay forKeyPath:@"runningApplications"];
         });
     }

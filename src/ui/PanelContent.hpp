@@ -25,6 +25,13 @@ struct PanelContent {
         std::function<std::string()> layoutKey = nullptr;
         // Told when the pointer enters (true) and leaves (false) the page. Empty: not tracked.
         std::function<void(bool)> pointerInside = nullptr;
+
+        SettingsPage build() const { return make ? make() : SettingsPage{}; }
+        std::string layout() const { return layoutKey ? layoutKey() : std::string(); }
+        // Whether a page built when the layout was `built` must be built again.
+        bool needsRebuild(const std::string& built) const {
+            return layoutKey && layoutKey() != built;
+        }
     };
 
     // Or Quorvane's own menu: the control grid, "Settings…" and "Quit Quorvane".

@@ -1,9 +1,18 @@
 #include "ui/SettingsRowDisplay.hpp"
 
 #include <cmath>
+#include <sstream>
 #include <variant>
 
 namespace quorvane {
+
+bool isShown(const SettingsRow& row) {
+    return !row.isVisible || row.isVisible();
+}
+
+bool isOn(const SettingsRow::Toggle& toggle) {
+    return toggle.get && toggle.get();
+}
 
 ChoiceDisplay choiceDisplay(const SettingsRow::Choice& choice) {
     const std::string current = choice.get ? choice.get() : std::string();
@@ -24,6 +33,34 @@ ChoiceDisplay choiceDisplay(const SettingsRow::Choice& choice) {
     return display;
 }
 
+void chooseItem(const SettingsRow::Choice& choice, std::ptrdiff_t item) {
+    if (choice.set && item >= 0 && static_cast<std::size_t>(item) < choice.options.size()) {
+        choice.set(choice.options[static_cast<std::size_t>(item)].value);
+    }
+}
+
+double currentValue(const SettingsRow::Slider& slider) {
+    return slider.get ? slider.get() : slider.minimum;
+}
+
+std::int64_t currentValue(const SettingsRow::Stepper& stepper) {
+    return stepper.get ? stepper.get() : stepper.minimum;
+}
+
+std::string valueText(const SettingsRow::Slider& slider, double value) {
+    return slider.format ? slider.format(value) : plainNumber(value);
+}
+
+std::string plainNumber(double value) {
+    std::ostringstream out;
+    out << value;
+    return out.str();
+}
+
+std::string valueText(const SettingsRow::Stepper& stepper, std::int64_t value) {
+    return stepper.format ? stepper.format(value) : std::to_string(value);
+}
+
 int tickMarkCount(const SettingsRow::Slider& slider) {
     if (!(slider.step > 0) || !(slider.maximum > slider.minimum)) {
         return 0;
@@ -39,6 +76,47 @@ std::string shortcutText(const SettingsRow::Shortcut& shortcut) {
 bool showsClearButton(const SettingsRow::Shortcut& shortcut) {
     const bool recording = shortcut.isRecording && shortcut.isRecording();
     return shortcut.clear && shortcut.displayText && !shortcut.displayText().empty() && !recording;
+}
+
+bool showsConflict(const SettingsRow::Shortcut& shortcut) {
+    return shortcut.hasConflict && shortcut.hasConflict();
+}
+
+std::vector<ListLine> listLines(const SettingsRow::AppList& list) {
+    std::vector<ListLine> lines;
+    for (const auto& app : list.items ? list.items() : std::vector<SettingsRow::AppEntry>{}) {
+        ListLine line{app.name.empty() ? app.bundleID : app.name, nullptr};
+        if (list.remove) {
+            line.remove = [remove = list.remove, bundleID = app.bundleID] { remove(bundleID); };
+        }
+        lines.push_back(std::move(line));
+    }
+    return lines;
+}
+
+std::vector<ListLine> listLines(const SettingsRow::ItemList& list) {
+    std::vector<ListLine> lines;
+    const auto items = list.items ? list.items() : std::vector<std::string>{};
+    for (std::size_t index = 0; index < items.size(); ++index) {
+        ListLine line{items[index], nullptr};
+        if (list.remove) {
+            line.remove = [remove = list.remove, index] { remove(index); };
+        }
+        lines.push_back(std::move(line));
+    }
+    return lines;
+}
+
+std::optional<std::size_t> moveTarget(std::size_t index, std::size_t count, int offset) {
+    const auto target = static_cast<std::ptrdiff_t>(index) + offset;
+    if (index >= count || target < 0 || static_cast<std::size_t>(target) >= count) {
+        return std::nullopt;
+    }
+    return static_cast<std::size_t>(target);
+}
+
+std::string customText(const SettingsRow::Custom& custom) {
+    return custom.summary ? custom.summary() : custom.name;
 }
 
 void stopRecording(const SettingsPage& page) {

@@ -1,6 +1,9 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -10,7 +13,12 @@
 namespace quorvane {
 
 // What every renderer of a settings page shows for a row, decided once so the settings window
-// and the command line agree.
+// and the command line agree. A binding the row leaves empty reads as off, the minimum or
+// nothing, and writing through it does nothing.
+
+// Rows without a visibility rule always show.
+bool isShown(const SettingsRow& row);
+bool isOn(const SettingsRow::Toggle& toggle);
 
 // A choice as a pop-up: the options' titles, then the current value when it matches none of
 // them (an equalizer whose gains match no preset shows "Custom"), which is shown selected but
@@ -23,6 +31,18 @@ struct ChoiceDisplay {
     const std::string& selectedTitle() const { return items[selected]; }
 };
 ChoiceDisplay choiceDisplay(const SettingsRow::Choice& choice);
+// Stores the option at a pop-up item. The extra item of a value matching no option, and no
+// selection at all (-1), store nothing.
+void chooseItem(const SettingsRow::Choice& choice, std::ptrdiff_t item);
+
+// The value of a slider or stepper, and its text beside the control: the row's own format, or
+// the plain number.
+double currentValue(const SettingsRow::Slider& slider);
+std::int64_t currentValue(const SettingsRow::Stepper& stepper);
+std::string valueText(const SettingsRow::Slider& slider, double value);
+// Up to six significant digits, without trailing zeros: 0.5, 12, 1e+06.
+std::string plainNumber(double value);
+std::string valueText(const SettingsRow::Stepper& stepper, std::int64_t value);
 
 // The tick marks under a slider that moves in steps, one per reachable value; 0 for a
 // continuous slider.
@@ -32,6 +52,22 @@ int tickMarkCount(const SettingsRow::Slider& slider);
 std::string shortcutText(const SettingsRow::Shortcut& shortcut);
 // Whether the clear button shows: a shortcut is set and the recorder is not listening.
 bool showsClearButton(const SettingsRow::Shortcut& shortcut);
+bool showsConflict(const SettingsRow::Shortcut& shortcut);
+
+// One line of an application or item list, with the action of its remove button; empty when
+// entries cannot be removed. An application without a name shows its bundle identifier.
+struct ListLine {
+    std::string title;
+    std::function<void()> remove;
+};
+std::vector<ListLine> listLines(const SettingsRow::AppList& list);
+std::vector<ListLine> listLines(const SettingsRow::ItemList& list);
+
+// Where an editable list's entry goes when moved `offset` places; nothing past either end.
+std::optional<std::size_t> moveTarget(std::size_t index, std::size_t count, int offset);
+
+// What a renderer that cannot draw a custom row shows in its place.
+std::string customText(const SettingsRow::Custom& custom);
 
 // Stops every recorder on the page; the window calls it when it closes or changes page, since
 // a listening recorder keeps every global shortcut paused.

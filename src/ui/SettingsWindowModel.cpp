@@ -30,6 +30,13 @@ void SettingsWindowModel::setQuery(std::string_view query) {
     publish();
 }
 
+ColorRole SettingsWindowModel::SidebarRow::titleColor() const {
+    if (kind == Kind::category) {
+        return ColorRole::secondaryLabel;
+    }
+    return isAvailable ? ColorRole::label : ColorRole::tertiaryLabel;
+}
+
 std::vector<SettingsWindowModel::SidebarRow> SettingsWindowModel::sidebar() const {
     std::vector<SidebarRow> rows;
     if (words_.empty()) {

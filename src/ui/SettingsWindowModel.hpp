@@ -9,6 +9,7 @@
 
 #include "app/Permission.hpp"
 #include "app/PermissionCard.hpp"
+#include "base/ColorRole.hpp"
 #include "base/Observable.hpp"
 #include "base/Subscription.hpp"
 #include "ui/SettingsPage.hpp"
@@ -32,6 +33,9 @@ public:
     static constexpr const char* kSearchPlaceholder = "Search";
     static constexpr const char* kNoResults = "No tools match your search.";
     static constexpr const char* kShowInMenuLabel = "Show in Menu";
+    // The dot after the name of a tool that is on.
+    static constexpr const char* kOnIndicator = "circle.fill";
+    static constexpr ColorRole kOnIndicatorColor = ColorRole::green;
 
     struct SidebarRow {
         enum class Kind { general, category, tool };
@@ -41,6 +45,9 @@ public:
         std::string toolID{};  // tool rows only
         bool isOn = false;
         bool isAvailable = true;
+
+        // Headings are quieter than entries; a tool that is not available is greyed out.
+        ColorRole titleColor() const;
     };
 
     // The top of the page: what the entry is, and for a tool, its switches.

@@ -76,5 +76,95 @@ TEST(SettingsRowDisplayTest, ShortcutTextClearButtonAndStoppingEveryRecorder) {
     EXPECT_EQ(stops, 2);
 }
 
+TEST(SettingsRowDisplayTest, UnboundRowsReadAsOffOrTheirMinimumAndStoreNothing) {
+    SettingsRow::Toggle toggle{"Sound", nullptr, nullptr, ""};
+    EXPECT_FALSE(isOn(toggle));
+    toggle.get = [] { return true; };
+    EXPECT_TRUE(isOn(toggle));
+
+    SettingsRow::Slider slider{"Gain", -12, 12, 1, nullptr, nullptr, nullptr};
+    EXPECT_EQ(currentValue(slider), -12);
+    SettingsRow::Stepper stepper{"Count", 3, 9, 1, nullptr, nullptr, nullptr};
+    EXPECT_EQ(currentValue(stepper), 3);
+
+    SettingsRow::Choice unbound = presetChoice("rock");
+    chooseItem(unbound, 0);  // no setter: nothing happens, nothing breaks
+
+    SettingsRow row{SettingsRow::Note{"text"}, nullptr};
+    EXPECT_TRUE(isShown(row));
+    bool visible = false;
+    row.isVisible = [&] { return visible; };
+    EXPECT_FALSE(isShown(row));
+    visible = true;
+    EXPECT_TRUE(isShown(row));
+}
+
+TEST(SettingsRowDisplayTest, ChoosingAnItemStoresOnlyRealOptions) {
+    std::vector<std::string> stored;
+    SettingsRow::Choice choice = presetChoice("Custom");
+    choice.set = [&](const std::string& value) { stored.push_back(value); };
+    chooseItem(choice, 2);
+    chooseItem(choice, 0);
+    chooseItem(choice, 3);   // the "Custom" item shown for gains matching no preset
+    chooseItem(choice, -1);  // nothing selected
+    EXPECT_EQ(stored, (std::vector<std::string>{"vocal", "flat"}));
+}
+
+TEST(SettingsRowDisplayTest, ValuesShowInTheRowsFormatOrAsPlainNumbers) {
+    SettingsRow::Slider slider{"Opacity", 0, 1, 0.1, nullptr, nullptr, nullptr};
+    EXPECT_EQ(valueText(slider, 0.5), "0.5");
+    EXPECT_EQ(valueText(slider, 12.0), "12") << "no trailing zeros";
+    EXPECT_EQ(valueText(slider, 1.0 / 3), "0.333333");
+    slider.format = [](double value) {
+        return std::to_string(static_cast<int>(value * 100)) + " %";
+    };
+    EXPECT_EQ(valueText(slider, 0.5), "50 %");
+
+    SettingsRow::Stepper stepper{"Count", -5, 5, 1, nullptr, nullptr, nullptr};
+    EXPECT_EQ(valueText(stepper, -3), "-3");
+    stepper.format = [](std::int64_t value) { return std::to_string(value) + " s"; };
+    EXPECT_EQ(valueText(stepper, 4), "4 s");
+}
+
+TEST(SettingsRowDisplayTest, ListLinesNameTheirEntryAndRemoveThatEntry) {
+    std::vector<std::string> removedApps;
+    SettingsRow::AppList apps;
+    apps.items = [] {
+        return std::vector<SettingsRow::AppEntry>{{"com.example.mail", "Mail"},
+                                                  {"com.example.gone", ""}};
+    };
+    apps.remove = [&](const std::string& bundleID) { removedApps.push_back(bundleID); };
+    auto lines = listLines(apps);
+    ASSERT_EQ(lines.size(), 2u);
+    EXPECT_EQ(lines[0].title, "Mail");
+    EXPECT_EQ(lines[1].title, "com.example.gone") << "an app without a name shows its identifier";
+    lines[1].remove();
+    EXPECT_EQ(removedApps, (std::vector<std::string>{"com.example.gone"}));
+
+    std::vector<std::size_t> removedItems;
+    SettingsRow::ItemList items;
+    items.items = [] { return std::vector<std::string>{"first", "second", "third"}; };
+    items.remove = [&](std::size_t index) { removedItems.push_back(index); };
+    lines = listLines(items);
+    ASSERT_EQ(lines.size(), 3u);
+    EXPECT_EQ(lines[2].title, "third");
+    lines[2].remove();
+    lines[0].remove();
+    EXPECT_EQ(removedItems, (std::vector<std::size_t>{2, 0}));
+
+    items.remove = nullptr;
+    EXPECT_FALSE(listLines(items)[0].remove) << "fixed lists show no remove buttons";
+    EXPECT_TRUE(listLines(SettingsRow::ItemList{}).empty());
+}
+
+TEST(SettingsRowDisplayTest, EntriesMoveOnlyWithinTheList) {
+    EXPECT_EQ(moveTarget(0, 3, -1), std::nullopt);
+    EXPECT_EQ(moveTarget(0, 3, 1), 1u);
+    EXPECT_EQ(moveTarget(2, 3, -1), 1u);
+    EXPECT_EQ(moveTarget(2, 3, 1), std::nullopt);
+    EXPECT_EQ(moveTarget(0, 1, 1), std::nullopt) << "a lone entry stays";
+    EXPECT_EQ(moveTarget(3, 3, -1), std::nullopt) << "an entry that is gone does not move";
+}
+
 }  // namespace
 }  // namespace quorvane
