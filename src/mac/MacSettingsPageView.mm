@@ -74,7 +74,12 @@ struct PageState {
 
 - (NSView*)viewForSection:(const quorvane::SettingsSection&)section {
     NSStackView* column = quorvane::makeColumn(10);
-    if (!section.title.empty()) {
+    if (!section.iconFile.empty()) {
+        [column addArrangedSubview:quorvane::makeRow(6, @[
+                    quorvane::makeFileIcon(section.iconFile, 16),
+                    quorvane::makeHeading(section.title, 13)
+                ])];
+    } else if (!section.title.empty()) {
         [column addArrangedSubview:quorvane::makeHeading(section.title, 13)];
     }
     for (const auto& row : section.rows) {

@@ -27,6 +27,8 @@ NSImageView* makeSymbol(std::string_view systemImage, CGFloat pointSize);
 NSImageView* makeSymbol(std::string_view systemImage, CGFloat pointSize, ColorRole tint);
 // A symbol image described for VoiceOver; nil when the symbol does not exist on this system.
 NSImage* makeSymbolImage(std::string_view systemImage, std::string_view description);
+// The Finder's icon of a file or bundle, `size` points square.
+NSImageView* makeFileIcon(std::string_view path, CGFloat size);
 
 // Stacks holding `views` in order.
 NSStackView* makeColumn(CGFloat spacing, NSArray<NSView*>* views = nil);

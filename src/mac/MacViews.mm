@@ -99,6 +99,17 @@ NSImageView* makeSymbol(std::string_view systemImage, CGFloat pointSize) {
     return view;
 }
 
+NSImageView* makeFileIcon(std::string_view path, CGFloat size) {
+    // unconfirmed: check on a Mac first (-[NSWorkspace iconForFile:] is from Apple's reference,
+    // not the fact sheet); it answers a generic icon for a path that is gone.
+    NSImage* icon = [[NSWorkspace sharedWorkspace] iconForFile:text(path)];
+    icon.size = NSMakeSize(size, size);
+    NSImageView* view = [NSImageView imageViewWithImage:icon];
+    [view.widthAnchor constraintEqualToConstant:size].active = YES;
+    [view.heightAnchor constraintEqualToConstant:size].active = YES;
+    return view;
+}
+
 NSImageView* makeSymbol(std::string_view systemImage, CGFloat pointSize, ColorRole tint) {
     NSImageView* view = makeSymbol(systemImage, pointSize);
     view.contentTintColor = color(tint);
