@@ -274,6 +274,18 @@ bool JsonReader::readHexQuad(char32_t& unit) {
     return true;
 }
 
+bool JsonReader::skipKey() {
+    skipWhitespace();
+    if (atEnd()) {
+        return failAtEnd();
+    }
+    if (peek() != '"') {
+        return fail(pos_, "expected a string key");
+    }
+    std::string ignored;
+    return readString(ignored) && expect(':', "expected ':'");
+}
+
 bool JsonReader::skipValue(std::size_t maxDepth) {
     // The open containers, innermost last: ']' or '}'. Kept on the heap so that hostile nesting
     // meets the depth limit, never the end of the call stack.
@@ -295,15 +307,8 @@ bool JsonReader::skipValue(std::size_t maxDepth) {
                 // An empty container is a complete value; fall through to what follows it.
             } else {
                 closers.push_back(close);
-                if (open == '{') {
-                    skipWhitespace();
-                    if (atEnd() || peek() != '"') {
-                        return atEnd() ? failAtEnd() : fail(pos_, "expected a string key");
-                    }
-                    ignored.clear();
-                    if (!readString(ignored) || !expect(':', "expected ':'")) {
-                        return false;
-                    }
+                if (open == '{' && !skipKey()) {
+                    return false;
                 }
                 continue;
             }
@@ -339,15 +344,8 @@ bool JsonReader::skipValue(std::size_t maxDepth) {
                 return true;
             }
             if (skip(',')) {
-                if (closers.back() == '}') {
-                    skipWhitespace();
-                    if (atEnd() || peek() != '"') {
-                        return atEnd() ? failAtEnd() : fail(pos_, "expected a string key");
-                    }
-                    ignored.clear();
-                    if (!readString(ignored) || !expect(':', "expected ':'")) {
-                        return false;
-                    }
+                if (closers.back() == '}' && !skipKey()) {
+                    return false;
                 }
                 break;
             }

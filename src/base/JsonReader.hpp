@@ -50,6 +50,8 @@ public:
 
 private:
     bool readDigits();
+    // A member's key and its colon, in an object being skipped.
+    bool skipKey();
     bool readEscape(std::string& out);
     bool readHexQuad(char32_t& unit);
 

@@ -58,6 +58,19 @@ char32_t foldCode(char32_t c) {
     if (c >= 0x400 && c <= 0x40F) {
         return c + 80;
     }
+    // Greek capitals with an accent.
+    if (c == 0x386) {
+        return 0x3AC;
+    }
+    if (c >= 0x388 && c <= 0x38A) {
+        return c + 37;
+    }
+    if (c == 0x38C) {
+        return 0x3CC;
+    }
+    if (c == 0x38E || c == 0x38F) {
+        return c + 63;
+    }
     if (c >= 0x100 && c <= 0x17F && c != 0x130 && c != 0x131 && c != 0x138 && c != 0x149 &&
         c != 0x17F) {
         // Pairs in Latin Extended-A: upper even then lower odd, shifting after U+0138.

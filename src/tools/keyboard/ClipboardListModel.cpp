@@ -87,33 +87,37 @@ void ClipboardListModel::filter() {
 std::vector<ClipboardListModel::Row> ClipboardListModel::rows() const {
     std::vector<Row> rows;
     for (std::size_t i = 0; i < shown_.size(); ++i) {
-        const ClipItem& item = (*items_)[shown_[i]];
-        Row row;
-        row.id = item.id;
-        row.kind = item.kind;
-        row.number = i < 9 ? std::to_string(i + 1) : std::string();
-        row.app = item.app;
-        row.isSelected = i == selection_;
-        switch (item.kind) {
-            case ClipItem::Kind::text:
-                row.title = item.text ? ClipText::preview(*item.text) : std::string();
-                break;
-            case ClipItem::Kind::image:
-                row.symbol = "photo";
-                break;
-            case ClipItem::Kind::files:
-                row.symbol = "doc.text";
-                if (item.filePaths) {
-                    for (const auto& path : *item.filePaths) {
-                        row.title += row.title.empty() ? "" : ", ";
-                        row.title += fileName(path);
-                    }
-                }
-                break;
-        }
-        rows.push_back(std::move(row));
+        rows.push_back(row(i));
     }
     return rows;
+}
+
+ClipboardListModel::Row ClipboardListModel::row(std::size_t index) const {
+    const ClipItem& item = (*items_)[shown_.at(index)];
+    Row row;
+    row.id = item.id;
+    row.kind = item.kind;
+    row.number = index < 9 ? std::to_string(index + 1) : std::string();
+    row.app = item.app;
+    row.isSelected = index == selection_;
+    switch (item.kind) {
+        case ClipItem::Kind::text:
+            row.title = item.text ? ClipText::preview(*item.text) : std::string();
+            break;
+        case ClipItem::Kind::image:
+            row.symbol = "photo";
+            break;
+        case ClipItem::Kind::files:
+            row.symbol = "doc.text";
+            if (item.filePaths) {
+                for (const auto& path : *item.filePaths) {
+                    row.title += row.title.empty() ? "" : ", ";
+                    row.title += fileName(path);
+                }
+            }
+            break;
+    }
+    return row;
 }
 
 std::optional<std::string> ClipboardListModel::emptyText() const {

@@ -52,6 +52,8 @@ public:
     const std::vector<std::size_t>& shown() const { return shown_; }
     std::size_t selection() const { return selection_; }
     std::vector<Row> rows() const;
+    // The row at a shown index, for a list that draws only the rows in view.
+    Row row(std::size_t index) const;
     // Nothing when rows are shown.
     std::optional<std::string> emptyText() const;
 
