@@ -195,13 +195,18 @@ bool ItemReader::readMember(const std::string& name, ClipItem& item, unsigned& s
         return once(text) && readOptionalString(item.text);
     }
     if (name == "date") {
-        reader_.skipWhitespace();
-        JsonReader::Number number;
-        if (!once(date) || reader_.atEnd() ||
-            !(reader_.peek() == '-' || (reader_.peek() >= '0' && reader_.peek() <= '9'))) {
-            return reader_.atEnd() ? reader_.failAtEnd()
-                                   : reader_.fail(reader_.offset(), "expected a number");
+        if (!once(date)) {
+            return false;
         }
+        reader_.skipWhitespace();
+        if (reader_.atEnd()) {
+            return reader_.failAtEnd();
+        }
+        const char first = reader_.peek();
+        if (first != '-' && (first < '0' || first > '9')) {
+            return reader_.fail(reader_.offset(), "expected a number");
+        }
+        JsonReader::Number number;
         if (!reader_.readNumber(number)) {
             return false;
         }
