@@ -10,7 +10,8 @@
 
 namespace quorvane {
 
-bool writeFileAtomically(const std::filesystem::path& path, std::string_view bytes,
+bool writeFileAtomically(const std::filesystem::path& path,
+                         const std::function<bool(const ByteSink& sink)>& produce,
                          std::string& error) {
     std::string temporary = path.string() + ".XXXXXX";
     // mkstemp creates the file 0600 already; fchmod states it for any libc.
@@ -20,23 +21,43 @@ bool writeFileAtomically(const std::filesystem::path& path, std::string_view byt
         return false;
     }
     bool ok = ::fchmod(fd, 0600) == 0;
-    while (ok && !bytes.empty()) {
-        const ssize_t written = ::write(fd, bytes.data(), bytes.size());
-        if (written < 0 && errno == EINTR) {
-            continue;
+    int savedErrno = ok ? 0 : errno;
+    const ByteSink sink = [&](std::string_view bytes) {
+        while (ok && !bytes.empty()) {
+            const ssize_t written = ::write(fd, bytes.data(), bytes.size());
+            if (written < 0 && errno == EINTR) {
+                continue;
+            }
+            ok = written > 0;
+            savedErrno = ok ? 0 : errno;
+            bytes.remove_prefix(ok ? static_cast<std::size_t>(written) : 0);
         }
-        ok = written > 0;
-        bytes.remove_prefix(ok ? static_cast<std::size_t>(written) : 0);
+        return ok;
+    };
+    if (ok && !produce(sink)) {
+        ok = false;
+        savedErrno = savedErrno != 0 ? savedErrno : ECANCELED;
     }
-    ok = ok && ::fsync(fd) == 0;
-    const int savedErrno = errno;
-    ok = ::close(fd) == 0 && ok;
+    if (ok && ::fsync(fd) != 0) {
+        ok = false;
+        savedErrno = errno;
+    }
+    if (::close(fd) != 0 && ok) {
+        ok = false;
+        savedErrno = errno;
+    }
     if (!ok || std::rename(temporary.c_str(), path.c_str()) != 0) {
         error = "cannot write " + path.string() + ": " + std::strerror(ok ? errno : savedErrno);
         ::unlink(temporary.c_str());
         return false;
     }
     return true;
+}
+
+bool writeFileAtomically(const std::filesystem::path& path, std::string_view bytes,
+                         std::string& error) {
+    return writeFileAtomically(
+        path, [bytes](const ByteSink& sink) { return sink(bytes); }, error);
 }
 
 }  // namespace quorvane

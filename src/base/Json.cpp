@@ -1,62 +1,20 @@
 #include "base/Json.hpp"
 
-#include <array>
 #include <cassert>
-#include <charconv>
-#include <cmath>
-#include <cstdlib>
 
-#include "base/Utf8.hpp"
+#include "base/JsonReader.hpp"
+#include "base/JsonWriter.hpp"
 
 namespace quorvane {
 namespace {
 
-// Up to this magnitude every integer has an exact double. Integer literals beyond it are read as
-// reals, which is also what any other reader of the file would make of them.
-constexpr std::uint64_t kMaxExactInteger = std::uint64_t{1} << 53;
-// 2^53 has 16 digits, so a literal with more is beyond it whatever its digits.
-constexpr std::size_t kMaxExactIntegerDigits = 16;
-
-constexpr std::string_view kHexDigits = "0123456789abcdef";
-constexpr std::string_view kReplacementCharacter = "\xEF\xBF\xBD";
-
-// The two-character escapes: each letter after the backslash stands for the character at the
-// same place in kEscaped. The writer never uses "\/", which only the reader must understand.
-constexpr std::string_view kEscapeLetters = "\"\\/bfnrt";
-constexpr std::string_view kEscaped = "\"\\/\b\f\n\r\t";
-
-const char* findEscaped(char letter) {
-    const std::size_t index = kEscapeLetters.find(letter);
-    return index == std::string_view::npos ? nullptr : &kEscaped[index];
-}
-
-bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
-
-bool isWhitespace(char c) {
-    return c == ' ' || c == '\t' || c == '\n' || c == '\r';
-}
-
-int hexDigitValue(char c) {
-    if (isDigit(c)) {
-        return c - '0';
-    }
-    if (c >= 'a' && c <= 'f') {
-        return c - 'a' + 10;
-    }
-    if (c >= 'A' && c <= 'F') {
-        return c - 'A' + 10;
-    }
-    return -1;
-}
-
 class Parser {
 public:
-    Parser(std::string_view text, JsonLimits limits) : text_(text), limits_(limits) {}
+    Parser(std::string_view text, JsonLimits limits)
+        : text_(text), reader_(text), limits_(limits) {}
 
     std::optional<Json> parseDocument();
-    const JsonError& error() const { return error_; }
+    const JsonError& error() const { return reader_.error(); }
 
 private:
     // Open arrays and objects live on this explicit stack rather than the call stack, so hostile
@@ -67,27 +25,19 @@ private:
     };
     enum class Step { failed, opened, completed };
 
-    bool atEnd() const { return pos_ >= text_.size(); }
-    char peek() const { return text_[pos_]; }
-    void skipWhitespace();
-    bool fail(std::size_t offset, const char* message);
-    bool failAtEnd() { return fail(text_.size(), "unexpected end of text"); }
+    bool atEnd() const { return reader_.atEnd(); }
+    char peek() const { return reader_.peek(); }
+    bool fail(std::size_t offset, const char* message) { return reader_.fail(offset, message); }
+    bool failAtEnd() { return reader_.failAtEnd(); }
 
     Step startValue(Json& value);
     bool parseKey(Frame& frame);
     bool parseScalar(Json& value);
-    bool parseLiteral(std::string_view word, Json literal, Json& value);
-    bool parseNumber(Json& value);
-    bool parseDigits();
-    bool parseString(std::string& out);
-    bool parseEscape(std::string& out);
-    bool parseHexQuad(char32_t& unit);
 
     std::string_view text_;
+    JsonReader reader_;
     JsonLimits limits_;
-    std::size_t pos_ = 0;
     std::vector<Frame> stack_;
-    JsonError error_;
 };
 
 std::optional<Json> Parser::parseDocument() {
@@ -95,7 +45,7 @@ std::optional<Json> Parser::parseDocument() {
         fail(limits_.maxBytes, "text longer than the size limit");
         return std::nullopt;
     }
-    skipWhitespace();
+    reader_.skipWhitespace();
     Json value;
     for (;;) {
         const Step step = startValue(value);
@@ -109,9 +59,9 @@ std::optional<Json> Parser::parseDocument() {
         // text closes right after it.
         for (;;) {
             if (stack_.empty()) {
-                skipWhitespace();
+                reader_.skipWhitespace();
                 if (!atEnd()) {
-                    fail(pos_, "unexpected text after the value");
+                    fail(reader_.offset(), "unexpected text after the value");
                     return std::nullopt;
                 }
                 return value;
@@ -123,40 +73,22 @@ std::optional<Json> Parser::parseDocument() {
             } else {
                 top.container.object()->emplace(std::move(top.key), std::move(value));
             }
-            skipWhitespace();
-            if (atEnd()) {
-                failAtEnd();
-                return std::nullopt;
-            }
-            if (peek() == ',') {
-                ++pos_;
-                skipWhitespace();
+            if (reader_.skip(',')) {
+                reader_.skipWhitespace();
                 if (elements == nullptr && !parseKey(top)) {
                     return std::nullopt;
                 }
                 break;
             }
-            if (peek() != (elements != nullptr ? ']' : '}')) {
-                fail(pos_, elements != nullptr ? "expected ',' or ']'" : "expected ',' or '}'");
+            if (!reader_.expect(elements != nullptr ? ']' : '}', elements != nullptr
+                                                                     ? "expected ',' or ']'"
+                                                                     : "expected ',' or '}'")) {
                 return std::nullopt;
             }
-            ++pos_;
             value = std::move(top.container);
             stack_.pop_back();
         }
     }
-}
-
-void Parser::skipWhitespace() {
-    while (!atEnd() && isWhitespace(peek())) {
-        ++pos_;
-    }
-}
-
-bool Parser::fail(std::size_t offset, const char* message) {
-    error_.offset = offset;
-    error_.message = message;
-    return false;
 }
 
 // Reads a scalar whole, or opens an array or object: `opened` means its first element (or first
@@ -171,17 +103,16 @@ Parser::Step Parser::startValue(Json& value) {
         return parseScalar(value) ? Step::completed : Step::failed;
     }
     if (stack_.size() >= limits_.maxDepth) {
-        fail(pos_, "nested deeper than the depth limit");
+        fail(reader_.offset(), "nested deeper than the depth limit");
         return Step::failed;
     }
-    ++pos_;
-    skipWhitespace();
+    reader_.skip(open);
     Json container = open == '[' ? Json::emptyArray() : Json::emptyObject();
-    if (!atEnd() && peek() == (open == '[' ? ']' : '}')) {
-        ++pos_;
+    if (reader_.skip(open == '[' ? ']' : '}')) {
         value = std::move(container);
         return Step::completed;
     }
+    reader_.skipWhitespace();
     stack_.push_back({std::move(container), {}});
     if (open == '{' && !parseKey(stack_.back())) {
         return Step::failed;
@@ -195,25 +126,20 @@ bool Parser::parseKey(Frame& frame) {
         return failAtEnd();
     }
     if (peek() != '"') {
-        return fail(pos_, "expected a string key");
+        return fail(reader_.offset(), "expected a string key");
     }
-    const std::size_t keyOffset = pos_;
+    const std::size_t keyOffset = reader_.offset();
     frame.key.clear();
-    if (!parseString(frame.key)) {
+    if (!reader_.readString(frame.key)) {
         return false;
     }
     if (frame.container.object()->contains(frame.key)) {
         return fail(keyOffset, "duplicate key");
     }
-    skipWhitespace();
-    if (atEnd()) {
-        return failAtEnd();
+    if (!reader_.expect(':', "expected ':'")) {
+        return false;
     }
-    if (peek() != ':') {
-        return fail(pos_, "expected ':'");
-    }
-    ++pos_;
-    skipWhitespace();
+    reader_.skipWhitespace();
     return true;
 }
 
@@ -221,264 +147,31 @@ bool Parser::parseScalar(Json& value) {
     switch (peek()) {
         case '"': {
             std::string text;
-            if (!parseString(text)) {
+            if (!reader_.readString(text)) {
                 return false;
             }
             value = Json(std::move(text));
             return true;
         }
         case 't':
-            return parseLiteral("true", Json(true), value);
+            value = Json(true);
+            return reader_.readLiteral("true");
         case 'f':
-            return parseLiteral("false", Json(false), value);
+            value = Json(false);
+            return reader_.readLiteral("false");
         case 'n':
-            return parseLiteral("null", Json(), value);
+            value = Json();
+            return reader_.readLiteral("null");
         default:
-            if (peek() == '-' || isDigit(peek())) {
-                return parseNumber(value);
+            if (peek() == '-' || (peek() >= '0' && peek() <= '9')) {
+                JsonReader::Number number;
+                if (!reader_.readNumber(number)) {
+                    return false;
+                }
+                value = number.isInteger ? Json(number.integer) : Json(number.real);
+                return true;
             }
-            return fail(pos_, "unexpected character");
-    }
-}
-
-bool Parser::parseLiteral(std::string_view word, Json literal, Json& value) {
-    const std::size_t start = pos_;
-    for (const char expected : word) {
-        if (atEnd()) {
-            return failAtEnd();
-        }
-        if (peek() != expected) {
-            return fail(start, "invalid literal");
-        }
-        ++pos_;
-    }
-    value = std::move(literal);
-    return true;
-}
-
-bool Parser::parseNumber(Json& value) {
-    const std::size_t start = pos_;
-    const bool isNegative = peek() == '-';
-    if (isNegative) {
-        ++pos_;
-    }
-    if (!atEnd() && peek() == '0') {
-        ++pos_;
-        if (!atEnd() && isDigit(peek())) {
-            return fail(pos_, "leading zero in number");
-        }
-    } else if (!parseDigits()) {
-        return false;
-    }
-    bool isInteger = true;
-    if (!atEnd() && peek() == '.') {
-        isInteger = false;
-        ++pos_;
-        if (!parseDigits()) {
-            return false;
-        }
-    }
-    if (!atEnd() && (peek() == 'e' || peek() == 'E')) {
-        isInteger = false;
-        ++pos_;
-        if (!atEnd() && (peek() == '+' || peek() == '-')) {
-            ++pos_;
-        }
-        if (!parseDigits()) {
-            return false;
-        }
-    }
-    const std::string_view literal = text_.substr(start, pos_ - start);
-    const std::string_view digits = literal.substr(isNegative ? 1 : 0);
-    if (isInteger && digits.size() <= kMaxExactIntegerDigits) {
-        std::uint64_t magnitude = 0;
-        for (const char digit : digits) {
-            magnitude = magnitude * 10 + static_cast<std::uint64_t>(digit - '0');
-        }
-        if (magnitude <= kMaxExactInteger) {
-            const auto signedMagnitude = static_cast<std::int64_t>(magnitude);
-            value = Json(isNegative ? -signedMagnitude : signedMagnitude);
-            return true;
-        }
-    }
-    // strtod, because libc++ has no floating-point std::from_chars. Quorvane never calls
-    // setlocale, so the "C" locale holds and '.' is the decimal point. The literal already
-    // matches JSON's grammar, a subset of what strtod reads, so strtod consumes all of it and
-    // rounds correctly; a copy gives it the terminator it needs.
-    const std::string terminated(literal);
-    const double real = std::strtod(terminated.c_str(), nullptr);
-    if (std::isinf(real)) {
-        return fail(start, "number out of range");
-    }
-    value = Json(real);
-    return true;
-}
-
-bool Parser::parseDigits() {
-    if (atEnd()) {
-        return failAtEnd();
-    }
-    if (!isDigit(peek())) {
-        return fail(pos_, "expected a digit");
-    }
-    while (!atEnd() && isDigit(peek())) {
-        ++pos_;
-    }
-    return true;
-}
-
-bool Parser::parseString(std::string& out) {
-    ++pos_;  // the opening quote
-    while (!atEnd()) {
-        const std::size_t runStart = pos_;
-        while (!atEnd()) {
-            const auto c = static_cast<unsigned char>(peek());
-            if (c == '"' || c == '\\' || c < 0x20 || c >= 0x80) {
-                break;
-            }
-            ++pos_;
-        }
-        out.append(text_.substr(runStart, pos_ - runStart));
-        if (atEnd()) {
-            break;
-        }
-        const auto c = static_cast<unsigned char>(peek());
-        if (c == '"') {
-            ++pos_;
-            return true;
-        }
-        if (c == '\\') {
-            if (!parseEscape(out)) {
-                return false;
-            }
-            continue;
-        }
-        if (c < 0x20) {
-            return fail(pos_, "control character in string");
-        }
-        const std::string_view rest = text_.substr(pos_);
-        const std::size_t length = utf8::sequenceLength(rest);
-        if (length == 0) {
-            return utf8::isTruncatedSequence(rest) ? failAtEnd() : fail(pos_, "invalid UTF-8");
-        }
-        out.append(rest.substr(0, length));
-        pos_ += length;
-    }
-    return failAtEnd();
-}
-
-bool Parser::parseEscape(std::string& out) {
-    const std::size_t start = pos_;
-    ++pos_;  // the backslash
-    if (atEnd()) {
-        return failAtEnd();
-    }
-    const char letter = peek();
-    ++pos_;
-    if (letter != 'u') {
-        const char* const escaped = findEscaped(letter);
-        if (escaped == nullptr) {
-            return fail(start, "invalid escape");
-        }
-        out += *escaped;
-        return true;
-    }
-    char32_t unit = 0;
-    if (!parseHexQuad(unit)) {
-        return false;
-    }
-    if (unit >= 0xDC00 && unit <= 0xDFFF) {
-        return fail(start, "unpaired surrogate");
-    }
-    if (unit >= 0xD800 && unit <= 0xDBFF) {
-        // A high surrogate means something only together with the low one that must follow.
-        for (const char expected : std::string_view("\\u")) {
-            if (atEnd()) {
-                return failAtEnd();
-            }
-            if (peek() != expected) {
-                return fail(start, "unpaired surrogate");
-            }
-            ++pos_;
-        }
-        char32_t low = 0;
-        if (!parseHexQuad(low)) {
-            return false;
-        }
-        if (low < 0xDC00 || low > 0xDFFF) {
-            return fail(start, "unpaired surrogate");
-        }
-        unit = 0x10000 + ((unit - 0xD800) << 10) + (low - 0xDC00);
-    }
-    utf8::appendCodePoint(out, unit);
-    return true;
-}
-
-bool Parser::parseHexQuad(char32_t& unit) {
-    unit = 0;
-    for (int i = 0; i < 4; ++i) {
-        if (atEnd()) {
-            return failAtEnd();
-        }
-        const int digit = hexDigitValue(peek());
-        if (digit < 0) {
-            return fail(pos_, "expected a hex digit");
-        }
-        unit = unit * 16 + static_cast<char32_t>(digit);
-        ++pos_;
-    }
-    return true;
-}
-
-void writeString(std::string& out, std::string_view text) {
-    out += '"';
-    std::size_t i = 0;
-    while (i < text.size()) {
-        const auto c = static_cast<unsigned char>(text[i]);
-        if (c >= 0x80) {
-            const std::size_t length = utf8::sequenceLength(text.substr(i));
-            out.append(length == 0 ? kReplacementCharacter : text.substr(i, length));
-            i += length == 0 ? 1 : length;
-            continue;
-        }
-        if (c == '"' || c == '\\' || c < 0x20) {
-            out += '\\';
-            const std::size_t index = kEscaped.find(static_cast<char>(c));
-            if (index != std::string_view::npos) {
-                out += kEscapeLetters[index];
-            } else {
-                out += "u00";
-                out += kHexDigits[c >> 4];
-                out += kHexDigits[c & 0x0F];
-            }
-        } else {
-            out += static_cast<char>(c);
-        }
-        ++i;
-    }
-    out += '"';
-}
-
-void writeInteger(std::string& out, std::int64_t value) {
-    std::array<char, 24> buffer{};
-    const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value);
-    out.append(buffer.data(), result.ptr);
-}
-
-void writeReal(std::string& out, double value) {
-    if (!std::isfinite(value)) {
-        out += "null";
-        return;
-    }
-    // The shortest form is at most 24 characters ("-2.2250738585072014e-308").
-    std::array<char, 32> buffer{};
-    const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value);
-    const std::string_view text(buffer.data(),
-                                static_cast<std::size_t>(result.ptr - buffer.data()));
-    out += text;
-    // "1" would read back as an integer.
-    if (text.find_first_of(".e") == std::string_view::npos) {
-        out += ".0";
+            return fail(reader_.offset(), "unexpected character");
     }
 }
 
@@ -498,13 +191,13 @@ void writeValue(std::string& out, const Json& value, Json::Layout layout, std::s
             out += *value.boolean() ? "true" : "false";
             break;
         case Json::Kind::integer:
-            writeInteger(out, *value.integer());
+            JsonWriter::integer(out, *value.integer());
             break;
         case Json::Kind::real:
-            writeReal(out, *value.number());
+            JsonWriter::real(out, *value.number());
             break;
         case Json::Kind::string:
-            writeString(out, *value.string());
+            JsonWriter::string(out, *value.string());
             break;
         case Json::Kind::array: {
             const Json::Array& elements = *value.array();
@@ -528,7 +221,7 @@ void writeValue(std::string& out, const Json& value, Json::Layout layout, std::s
                 out += isFirst ? "" : ",";
                 isFirst = false;
                 newLine(depth + 1);
-                writeString(out, key);
+                JsonWriter::string(out, key);
                 out += isPretty ? ": " : ":";
                 writeValue(out, member, layout, depth + 1);
             }

@@ -95,12 +95,12 @@ bool ClipboardCommand::run(const std::vector<std::string>& operands,
     for (std::size_t i = 1; i < operands.size(); ++i) {
         query += (i > 1 ? " " : "") + operands[i];
     }
-    const std::string folded = ClipText::fold(ClipText::trimmed(query));
+    ClipboardListModel model;
+    model.setItems(*items);
+    model.setQuery(query);
     ClipboardHistory::Items found;
-    for (const ClipItem& item : *items) {
-        if (ClipboardListModel::matches(item, folded)) {
-            found.push_back(item);
-        }
+    for (const std::size_t index : model.shown()) {
+        found.push_back((*items)[index]);
     }
     print(found, false, out);
     return true;

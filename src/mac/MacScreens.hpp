@@ -4,7 +4,7 @@
 
 namespace quorvane {
 
-// NSScreen, the mouse and the HUD's panel.
+// NSScreen, the mouse, the HUD's panel and the floating lists.
 class MacScreens final : public Screens {
 public:
     std::vector<Screen> screens() override;
@@ -12,6 +12,7 @@ public:
     Point mouseLocation() override;
     void beep() override;
     std::unique_ptr<Panel> makeFloatingPanel() override;
+    std::unique_ptr<ListPanel> makeListPanel(ListPanel::Handlers handlers) override;
 };
 
 }  // namespace quorvane

@@ -1,6 +1,7 @@
 #include "mac/MacScreens.hpp"
 
 #include "mac/MacFrameworks.h"
+#include "mac/MacListPanel.hpp"
 #include "mac/MacPanel.hpp"
 
 // unconfirmed: check on a Mac first. +[NSScreen screens], +[NSScreen mainScreen], the frame and
@@ -44,5 +45,9 @@ Point MacScreens::mouseLocation() {
 void MacScreens::beep() { NSBeep(); }
 
 std::unique_ptr<Panel> MacScreens::makeFloatingPanel() { return std::make_unique<MacPanel>(); }
+
+std::unique_ptr<ListPanel> MacScreens::makeListPanel(ListPanel::Handlers handlers) {
+    return std::make_unique<MacListPanel>(std::move(handlers));
+}
 
 }  // namespace quorvane

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "base/Point.hpp"
+#include "platform/ListPanel.hpp"
 #include "platform/Panel.hpp"
 #include "platform/Screen.hpp"
 
@@ -23,6 +24,9 @@ public:
     virtual void beep() = 0;
     // A new, hidden floating panel; nothing where there is no window system.
     virtual std::unique_ptr<Panel> makeFloatingPanel() = 0;
+    // A new, hidden floating list that reports to `handlers`; nothing where there is no
+    // window system.
+    virtual std::unique_ptr<ListPanel> makeListPanel(ListPanel::Handlers handlers) = 0;
 };
 
 }  // namespace quorvane

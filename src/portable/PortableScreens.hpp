@@ -12,6 +12,7 @@ public:
     Point mouseLocation() override { return {}; }
     void beep() override {}
     std::unique_ptr<Panel> makeFloatingPanel() override { return nullptr; }
+    std::unique_ptr<ListPanel> makeListPanel(ListPanel::Handlers) override { return nullptr; }
 };
 
 }  // namespace quorvane

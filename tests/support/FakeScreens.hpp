@@ -45,6 +45,32 @@ struct FakePanel : Panel {
     }
 };
 
+// A list panel that keeps what it was told and lets a test act as the user.
+struct FakeListPanel : ListPanel {
+    Handlers handlers;
+    ListPanelContent content;
+    Rect frame;
+    bool visible = false;
+
+    explicit FakeListPanel(Handlers given) : handlers(std::move(given)) {}
+    void setContent(const ListPanelContent& shown) override { content = shown; }
+    void show(const Rect& rect) override {
+        frame = rect;
+        visible = true;
+    }
+    void close() override { visible = false; }
+    bool isVisible() const override { return visible; }
+
+    // The rows as the panel would draw them now.
+    std::vector<ListPanelRow> rows() const {
+        std::vector<ListPanelRow> drawn;
+        for (std::size_t i = 0; i < content.rowCount; ++i) {
+            drawn.push_back(handlers.row(i));
+        }
+        return drawn;
+    }
+};
+
 struct FakeScreens : Screens {
     std::vector<Screen> displays{{{0, 0, 1440, 900}, {0, 0, 1440, 875}}};
     std::optional<std::size_t> mainIndex = 0;
@@ -52,6 +78,7 @@ struct FakeScreens : Screens {
     int beeps = 0;
     // The panels made so far; they belong to whoever asked for them.
     std::vector<FakePanel*> panels;
+    std::vector<FakeListPanel*> listPanels;
 
     std::vector<Screen> screens() override { return displays; }
     std::optional<Screen> mainScreen() override {
@@ -62,6 +89,11 @@ struct FakeScreens : Screens {
     std::unique_ptr<Panel> makeFloatingPanel() override {
         auto panel = std::make_unique<FakePanel>();
         panels.push_back(panel.get());
+        return panel;
+    }
+    std::unique_ptr<ListPanel> makeListPanel(ListPanel::Handlers handlers) override {
+        auto panel = std::make_unique<FakeListPanel>(std::move(handlers));
+        listPanels.push_back(panel.get());
         return panel;
     }
 };

@@ -76,6 +76,8 @@ static const NSUInteger NSWindowCollectionBehaviorCanJoinAllApplications = 1 << 
 - (void)addTrackingArea:(NSTrackingArea*)trackingArea;
 - (void)removeTrackingArea:(NSTrackingArea*)trackingArea;
 @property(readonly, copy) NSArray<NSTrackingArea*>* trackingAreas;
+// Looked up: NSView updateTrackingAreas (macOS 10.5), overridden to renew tracking areas.
+- (void)updateTrackingAreas;
 @property(readonly, strong) NSLayoutXAxisAnchor* centerXAnchor;
 @property(readonly, strong) NSLayoutYAxisAnchor* centerYAnchor;
 @property(readonly, strong) NSLayoutYAxisAnchor* firstBaselineAnchor;
@@ -161,6 +163,8 @@ APPKIT_EXPORT const NSFontWeight NSFontWeightBold;
 // through its accessors.
 - (BOOL)isTemplate;
 - (void)setTemplate:(BOOL)isTemplate;
+// Looked up: NSImage initWithCGImage:size: (macOS 10.6); NSZeroSize keeps the pixel size.
+- (instancetype)initWithCGImage:(CGImageRef)cgImage size:(NSSize)size;
 @end
 
 @interface NSFont (QVMacAdditions)

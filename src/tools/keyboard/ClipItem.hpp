@@ -6,7 +6,6 @@
 #include <string>
 #include <vector>
 
-#include "base/Json.hpp"
 #include "base/Uuid.hpp"
 
 namespace quorvane {
@@ -31,10 +30,6 @@ struct ClipItem {
 
     // Whether the two hold the same copy, whatever their ids and dates.
     bool sameContent(const ClipItem& other) const;
-
-    Json toJson() const;
-    // Nothing when a required member is missing or of the wrong kind.
-    static std::optional<ClipItem> fromJson(const Json& json);
 
     friend bool operator==(const ClipItem&, const ClipItem&) = default;
 };

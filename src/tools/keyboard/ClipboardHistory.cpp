@@ -1,7 +1,5 @@
 #include "tools/keyboard/ClipboardHistory.hpp"
 
-#include <algorithm>
-
 #include "tools/keyboard/ClipboardRules.hpp"
 
 namespace quorvane {
@@ -23,25 +21,14 @@ std::vector<Uuid> ClipboardHistory::replace(Items items) {
 
 std::vector<Uuid> ClipboardHistory::insert(ClipItem item) {
     std::vector<Uuid> unused;
-    const auto same = std::find_if(items_.begin(), items_.end(), [&](const ClipItem& existing) {
-        return existing.sameContent(item);
-    });
-    if (same == items_.end()) {
+    if (const auto same = items_.findSame(item)) {
+        if (item.kind == ClipItem::Kind::image) {
+            unused.push_back(item.id);
+        }
+        items_.bringToFront(*same, item.date, std::move(item.app));
+    } else {
         items_.push_front(std::move(item));
-        auto dropped = trim();
-        unused.insert(unused.end(), dropped.begin(), dropped.end());
-        return unused;
     }
-    ClipItem kept = std::move(*same);
-    items_.erase(same);
-    if (item.kind == ClipItem::Kind::image) {
-        unused.push_back(item.id);
-    }
-    kept.date = item.date;
-    if (item.app) {
-        kept.app = std::move(item.app);
-    }
-    items_.push_front(std::move(kept));
     auto dropped = trim();
     unused.insert(unused.end(), dropped.begin(), dropped.end());
     return unused;
@@ -61,13 +48,19 @@ std::vector<Uuid> ClipboardHistory::trim() {
     return dropped;
 }
 
+std::optional<std::size_t> ClipboardHistory::indexOf(const Uuid& id) const {
+    for (std::size_t i = 0; i < items_.size(); ++i) {
+        if (items_[i].id == id) {
+            return i;
+        }
+    }
+    return std::nullopt;
+}
+
 std::vector<Uuid> ClipboardHistory::remove(const Uuid& id) {
     std::vector<Uuid> dropped;
-    const auto found = std::find_if(items_.begin(), items_.end(),
-                                    [&](const ClipItem& item) { return item.id == id; });
-    if (found != items_.end()) {
-        collectImage(*found, dropped);
-        items_.erase(found);
+    if (const auto index = indexOf(id)) {
+        collectImage(items_.take(*index), dropped);
     }
     return dropped;
 }
@@ -91,12 +84,8 @@ std::vector<Uuid> ClipboardHistory::clear() {
 }
 
 const ClipItem* ClipboardHistory::find(const Uuid& id) const {
-    for (const ClipItem& item : items_) {
-        if (item.id == id) {
-            return &item;
-        }
-    }
-    return nullptr;
+    const auto index = indexOf(id);
+    return index ? &items_[*index] : nullptr;
 }
 
 }  // namespace quorvane

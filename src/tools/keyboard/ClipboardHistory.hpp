@@ -1,11 +1,10 @@
 #pragma once
 
 #include <cstddef>
-#include <deque>
 #include <optional>
 #include <vector>
 
-#include "tools/keyboard/ClipItem.hpp"
+#include "tools/keyboard/ClipItems.hpp"
 
 namespace quorvane {
 
@@ -13,7 +12,7 @@ namespace quorvane {
 // the image files that are no longer needed; the tool deletes them.
 class ClipboardHistory {
 public:
-    using Items = std::deque<ClipItem>;
+    using Items = ClipItems;
 
     explicit ClipboardHistory(std::size_t maxItems = 50) : maxItems_(maxItems) {}
 
@@ -37,6 +36,7 @@ public:
 
 private:
     std::vector<Uuid> trim();
+    std::optional<std::size_t> indexOf(const Uuid& id) const;
 
     std::size_t maxItems_;
     Items items_;

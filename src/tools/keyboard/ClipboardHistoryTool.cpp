@@ -104,6 +104,9 @@ void ClipboardHistoryTool::load() {
     if (!loaded.setAside) {
         store_.removeOrphanImages(keep);
     }
+    // Now rather than at the first search, which would make the first opening of the list
+    // wait for every long text to be read.
+    history_.items().prepareSearch();
     model_.setItems(history_.items());
 }
 
@@ -229,6 +232,13 @@ void ClipboardHistoryTool::openPanel(std::optional<Point> anchor, bool pasteHere
     model_.setItems(history_.items());
     model_.setQuery({});
     panelOpen_ = true;
+    if (!panel_) {
+        panel_ = platform_.screens.makeListPanel(panelHandlers());
+    }
+    if (panel_) {
+        refreshPanel();
+        panel_->show(panelFrame_);
+    }
     const std::uint64_t keyDown = std::uint64_t{1} << static_cast<int>(EventType::keyDown);
     keyMonitor_ = platform_.eventMonitors.addLocal(keyDown, [this](const Event& event) {
         const auto code =
@@ -257,11 +267,70 @@ void ClipboardHistoryTool::showFromMenu() {
 void ClipboardHistoryTool::closePanel() {
     keyMonitor_.cancel();
     clickMonitor_.cancel();
+    closeTask_.reset();
     if (panelOpen_) {
         panelOpen_ = false;
         model_.setQuery({});
+        if (panel_) {
+            panel_->close();
+        }
         publish();
     }
+}
+
+ListPanel::Handlers ClipboardHistoryTool::panelHandlers() {
+    ListPanel::Handlers handlers;
+    handlers.row = [this](std::size_t index) { return panelRow(index); };
+    handlers.queryChanged = [this](const std::string& query) {
+        model_.setQuery(query);
+        refreshPanel();
+    };
+    handlers.rowClicked = [this](std::size_t index) {
+        if (const ClipItem* item = model_.itemAt(index)) {
+            paste(item->id, false);
+        }
+    };
+    handlers.rowHovered = [this](std::size_t index, Point location) {
+        const std::size_t before = model_.selection();
+        model_.hover(index, location);
+        if (model_.selection() != before) {
+            refreshPanel();
+        }
+    };
+    handlers.resignedKey = [this] {
+        // Deferred: the panel is in the middle of telling.
+        closeTask_ = platform_.scheduler.post([this] { closePanel(); });
+    };
+    return handlers;
+}
+
+ListPanelRow ClipboardHistoryTool::panelRow(std::size_t index) {
+    const ClipboardListModel::Row row = model_.row(index);
+    ListPanelRow drawn;
+    drawn.number = row.number;
+    drawn.title = row.title;
+    drawn.symbol = row.symbol;
+    drawn.app = row.app;
+    drawn.isSelected = row.isSelected;
+    if (row.kind == ClipItem::Kind::image) {
+        drawn.thumbnail = thumbnail(row.id);
+    }
+    return drawn;
+}
+
+void ClipboardHistoryTool::refreshPanel() {
+    if (!panelOpen_ || !panel_) {
+        return;
+    }
+    ListPanelContent content;
+    content.query = model_.query();
+    content.placeholder = ClipboardListModel::kPlaceholder;
+    content.rowCount = model_.shown().size();
+    content.selection = model_.selection();
+    content.emptyText = model_.emptyText();
+    content.footer = ClipboardListModel::kFooter;
+    content.error = lastError_;
+    panel_->setContent(content);
 }
 
 bool ClipboardHistoryTool::panelKey(std::uint16_t keyCode, std::uint64_t flags) {
@@ -286,10 +355,12 @@ bool ClipboardHistoryTool::panelKey(std::uint16_t keyCode, std::uint64_t flags) 
             return true;
         case Kind::moveUp:
             model_.moveSelection(-1);
+            refreshPanel();
             publish();
             return true;
         case Kind::moveDown:
             model_.moveSelection(1);
+            refreshPanel();
             publish();
             return true;
         case Kind::search:
@@ -511,12 +582,14 @@ void ClipboardHistoryTool::scheduleSave() {
 
 void ClipboardHistoryTool::changed() {
     model_.setItems(history_.items());
+    refreshPanel();
     scheduleSave();
     publish();
 }
 
 void ClipboardHistoryTool::setLastError(std::string error) {
     lastError_ = std::move(error);
+    refreshPanel();
     publish();
 }
 

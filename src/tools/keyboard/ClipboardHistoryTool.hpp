@@ -14,6 +14,7 @@
 #include "base/Subscription.hpp"
 #include "input/EventTap.hpp"
 #include "input/ShortcutSetting.hpp"
+#include "platform/ListPanel.hpp"
 #include "platform/Platform.hpp"
 #include "platform/Thumbnail.hpp"
 #include "platform/Timer.hpp"
@@ -99,6 +100,10 @@ private:
     void installTap();
     bool handleMouse(EventType type, Event& event);
     void openAtClick(Point topLeftLocation);
+    ListPanel::Handlers panelHandlers();
+    ListPanelRow panelRow(std::size_t index);
+    // Draws the list again while it is open.
+    void refreshPanel();
     std::optional<Point> caretAnchor();
     Point toBottomLeft(Point topLeft);
     void deleteImages(const std::vector<Uuid>& ids);
@@ -125,6 +130,9 @@ private:
     std::int64_t lastChangeCount_ = -1;
     std::map<Uuid, Thumbnail> thumbnails_;
     ClipboardListModel model_;
+    // Made on first use; kept until the tool goes.
+    std::unique_ptr<ListPanel> panel_;
+    std::optional<Timer> closeTask_;
     bool panelOpen_ = false;
     bool pasteHere_ = false;
     Rect panelFrame_;

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <filesystem>
 
 #include "tools/keyboard/ClipText.hpp"
 
@@ -19,8 +18,9 @@ constexpr std::uint64_t kModifiers = kShift | kControl | kOption | kCommand;
 // US-layout key codes of the digits 1…9.
 constexpr std::array<std::uint16_t, 9> kDigitKeys = {18, 19, 20, 21, 23, 22, 26, 28, 25};
 
-std::string fileName(const std::string& path) {
-    return std::filesystem::path(path).filename().string();
+std::string_view fileName(std::string_view path) {
+    const std::size_t slash = path.rfind('/');
+    return slash == std::string_view::npos ? path : path.substr(slash + 1);
 }
 
 }  // namespace
@@ -36,16 +36,19 @@ void ClipboardListModel::setQuery(std::string query) {
     filter();
 }
 
-bool ClipboardListModel::matches(const ClipItem& item, const std::string& foldedQuery) {
+bool ClipboardListModel::matches(std::size_t index, const ClipSearchKey::Query& query,
+                                 bool imagesMatch) const {
+    const ClipItem& item = (*items_)[index];
     switch (item.kind) {
         case ClipItem::Kind::text:
-            return item.text && ClipText::contains(*item.text, foldedQuery);
+            return item.text && items_->searchKey(index).mayContain(query) &&
+                   ClipText::contains(*item.text, query.folded());
         case ClipItem::Kind::image:
-            return ClipText::contains(kImageWords, foldedQuery);
+            return imagesMatch;
         case ClipItem::Kind::files:
             if (item.filePaths) {
                 for (const auto& path : *item.filePaths) {
-                    if (ClipText::contains(fileName(path), foldedQuery)) {
+                    if (ClipText::contains(fileName(path), query.folded())) {
                         return true;
                     }
                 }
@@ -61,10 +64,19 @@ void ClipboardListModel::filter() {
         selection_ = 0;
         return;
     }
-    const std::string folded = ClipText::fold(ClipText::trimmed(query_));
-    for (std::size_t i = 0; i < items_->size(); ++i) {
-        if (folded.empty() || matches((*items_)[i], folded)) {
+    const std::string_view trimmed = ClipText::trimmed(query_);
+    if (trimmed.empty()) {
+        for (std::size_t i = 0; i < items_->size(); ++i) {
             shown_.push_back(i);
+        }
+    } else {
+        const ClipSearchKey::Query query(ClipText::fold(trimmed));
+        const bool imagesMatch = ClipText::contains(kImageWords, query.folded());
+        for (std::size_t i = 0; i < items_->size(); ++i) {
+            items_->readAhead(i);
+            if (matches(i, query, imagesMatch)) {
+                shown_.push_back(i);
+            }
         }
     }
     if (selection_ >= shown_.size()) {
@@ -75,32 +87,37 @@ void ClipboardListModel::filter() {
 std::vector<ClipboardListModel::Row> ClipboardListModel::rows() const {
     std::vector<Row> rows;
     for (std::size_t i = 0; i < shown_.size(); ++i) {
-        const ClipItem& item = (*items_)[shown_[i]];
-        Row row;
-        row.id = item.id;
-        row.kind = item.kind;
-        row.number = i < 9 ? std::to_string(i + 1) : std::string();
-        row.app = item.app;
-        row.isSelected = i == selection_;
-        switch (item.kind) {
-            case ClipItem::Kind::text:
-                row.title = item.text ? ClipText::preview(*item.text) : std::string();
-                break;
-            case ClipItem::Kind::image:
-                row.symbol = "photo";
-                break;
-            case ClipItem::Kind::files:
-                row.symbol = "doc.text";
-                if (item.filePaths) {
-                    for (const auto& path : *item.filePaths) {
-                        row.title += (row.title.empty() ? "" : ", ") + fileName(path);
-                    }
-                }
-                break;
-        }
-        rows.push_back(std::move(row));
+        rows.push_back(row(i));
     }
     return rows;
+}
+
+ClipboardListModel::Row ClipboardListModel::row(std::size_t index) const {
+    const ClipItem& item = (*items_)[shown_.at(index)];
+    Row row;
+    row.id = item.id;
+    row.kind = item.kind;
+    row.number = index < 9 ? std::to_string(index + 1) : std::string();
+    row.app = item.app;
+    row.isSelected = index == selection_;
+    switch (item.kind) {
+        case ClipItem::Kind::text:
+            row.title = item.text ? ClipText::preview(*item.text) : std::string();
+            break;
+        case ClipItem::Kind::image:
+            row.symbol = "photo";
+            break;
+        case ClipItem::Kind::files:
+            row.symbol = "doc.text";
+            if (item.filePaths) {
+                for (const auto& path : *item.filePaths) {
+                    row.title += row.title.empty() ? "" : ", ";
+                    row.title += fileName(path);
+                }
+            }
+            break;
+    }
+    return row;
 }
 
 std::optional<std::string> ClipboardListModel::emptyText() const {

@@ -46,10 +46,14 @@ public:
     void setItems(const ClipboardHistory::Items& items);
     void setQuery(std::string query);
     const std::string& query() const { return query_; }
-    // Indices into the items, newest first, that match the query.
+    // Indices into the items, newest first, that match the query: texts that contain it,
+    // case-insensitively; images when one of the words "image picture photo screenshot" does;
+    // files when one of their names does.
     const std::vector<std::size_t>& shown() const { return shown_; }
     std::size_t selection() const { return selection_; }
     std::vector<Row> rows() const;
+    // The row at a shown index, for a list that draws only the rows in view.
+    Row row(std::size_t index) const;
     // Nothing when rows are shown.
     std::optional<std::string> emptyText() const;
 
@@ -63,11 +67,10 @@ public:
     // Return or keypad Enter pastes the selection (⌥ for plain text), ⌘⌫ removes it, Escape
     // closes, the arrows move, ⌘1…⌘9 paste a shown row; anything else is typing for the search.
     KeyAction key(std::uint16_t keyCode, std::uint64_t flags) const;
-    // Whether an item matches a folded, trimmed query.
-    static bool matches(const ClipItem& item, const std::string& foldedQuery);
 
 private:
     void filter();
+    bool matches(std::size_t index, const ClipSearchKey::Query& query, bool imagesMatch) const;
 
     const ClipboardHistory::Items* items_ = nullptr;
     std::string query_;

@@ -3,13 +3,15 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <array>
 #include <cerrno>
+#include <cstdio>
 #include <cstdlib>
-#include <fstream>
-#include <iterator>
+#include <memory>
 
 #include "base/AtomicFile.hpp"
-#include "base/Json.hpp"
+#include "base/MappedFile.hpp"
+#include "tools/keyboard/ClipboardHistoryFile.hpp"
 
 namespace quorvane {
 
@@ -17,16 +19,22 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// The history may hold many large copies; the general reader's bound is for settings files.
-constexpr JsonLimits kHistoryLimits{.maxDepth = 8, .maxBytes = std::size_t{1} << 31};
-
 std::optional<std::string> readFile(const fs::path& path) {
-    std::ifstream in(path, std::ios::binary);
-    if (!in) {
+    const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(path.c_str(), "rb"),
+                                                               &std::fclose);
+    if (!file) {
         return std::nullopt;
     }
-    std::string bytes((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
-    if (in.bad()) {
+    std::error_code error;
+    const auto size = fs::file_size(path, error);
+    std::string bytes(error ? 0 : static_cast<std::size_t>(size), '\0');
+    bytes.resize(std::fread(bytes.data(), 1, bytes.size(), file.get()));
+    // A file that grew since its size was taken is still read to its end.
+    std::array<char, 65536> more;
+    while (const std::size_t got = std::fread(more.data(), 1, more.size(), file.get())) {
+        bytes.append(more.data(), got);
+    }
+    if (std::ferror(file.get()) != 0) {
         return std::nullopt;
     }
     return bytes;
@@ -78,19 +86,7 @@ bool ClipboardStore::writeAtomically(const fs::path& path, std::string_view byte
 }
 
 std::optional<ClipboardHistory::Items> ClipboardStore::parse(std::string_view text) {
-    const auto json = Json::parse(text, nullptr, kHistoryLimits);
-    if (!json || !json->array()) {
-        return std::nullopt;
-    }
-    ClipboardHistory::Items items;
-    for (const Json& element : *json->array()) {
-        auto item = ClipItem::fromJson(element);
-        if (!item) {
-            return std::nullopt;
-        }
-        items.push_back(std::move(*item));
-    }
-    return items;
+    return ClipboardHistoryFile::decode(text);
 }
 
 std::optional<ClipboardHistory::Items> ClipboardStore::read() const {
@@ -98,8 +94,8 @@ std::optional<ClipboardHistory::Items> ClipboardStore::read() const {
     if (!fs::exists(historyPath(), error)) {
         return ClipboardHistory::Items{};
     }
-    const auto text = readFile(historyPath());
-    return text ? parse(*text) : std::nullopt;
+    const auto file = MappedFile::open(historyPath());
+    return file ? parse(file->bytes()) : std::nullopt;
 }
 
 ClipboardStore::Loaded ClipboardStore::load() const {
@@ -125,17 +121,12 @@ ClipboardStore::Loaded ClipboardStore::load() const {
 }
 
 bool ClipboardStore::save(const ClipboardHistory::Items& items) const {
-    std::string text = "[";
-    bool first = true;
-    for (const ClipItem& item : items) {
-        if (!first) {
-            text += ',';
-        }
-        first = false;
-        text += item.toJson().serialize();
-    }
-    text += "]";
-    return writeAtomically(historyPath(), text);
+    std::string error;
+    return makeFolder(folder_) &&
+           writeFileAtomically(
+               historyPath(),
+               [&items](const ByteSink& sink) { return ClipboardHistoryFile::write(items, sink); },
+               error);
 }
 
 bool ClipboardStore::writeImage(const Uuid& id, const std::vector<std::uint8_t>& bytes) const {

@@ -169,6 +169,42 @@ TEST(ClipboardListModel, SearchRowsAndTexts) {
     EXPECT_EQ(model.rows()[9].number, "");
 }
 
+TEST(ClipboardListModel, SearchReadsLongAndNonAsciiTextsWhole) {
+    // Matches at the start, across the pieces a long text is read in, and at its very end;
+    // upper and lower case in Latin, Greek and Cyrillic; a stray byte does not stop it.
+    std::string longText(100'000, 'x');
+    longText.replace(31, 6, "Budget");
+    longText.replace(50'000, 14, "ΣΤΟΙΧΕΊΑ Ωμέγα");
+    longText.replace(longText.size() - 10, 10, "Конецÿ...");
+    ClipboardHistory history(10);
+    history.insert(text(longText));
+    history.insert(text("Äpfel und Birnen"));
+    history.insert(text("plain ascii only"));
+    ClipboardListModel model;
+    model.setItems(history.items());
+    const auto shownFor = [&](const std::string& query) {
+        model.setQuery(query);
+        return model.shown();
+    };
+    EXPECT_EQ(shownFor("BUDGET"), std::vector<std::size_t>{2});
+    EXPECT_EQ(shownFor("στοιχεία ωΜΈΓΑ"), std::vector<std::size_t>{2});
+    EXPECT_EQ(shownFor("конец"), std::vector<std::size_t>{2});
+    EXPECT_EQ(shownFor("äPFEL"), std::vector<std::size_t>{1});
+    EXPECT_EQ(shownFor("ASCII"), std::vector<std::size_t>{0});
+    EXPECT_TRUE(shownFor("budgets").empty());
+    EXPECT_TRUE(shownFor("äpfelx").empty());
+    EXPECT_TRUE(shownFor("xxxxxxxxxxxxxxxxxxxxy").empty())
+        << "every pair is there, the word is not";
+
+    // A copy that arrives later is found too, and one that goes is no longer shown.
+    history.insert(text("Ünïcödé later"));
+    model.setItems(history.items());
+    EXPECT_EQ(shownFor("ÜNÏCÖDÉ"), std::vector<std::size_t>{0});
+    history.remove(history.items()[0].id);
+    model.setItems(history.items());
+    EXPECT_TRUE(shownFor("ÜNÏCÖDÉ").empty());
+}
+
 TEST(ClipboardListModel, KeysAndSelection) {
     ClipboardHistory history;
     for (int i = 0; i < 3; ++i) {

@@ -218,6 +218,58 @@ TEST_F(ClipboardHistoryToolTest, ACorruptHistoryStartsEmptyAndIsKept) {
     EXPECT_TRUE(std::filesystem::exists(temp / "history.json"));
 }
 
+TEST_F(ClipboardHistoryToolTest, TheListPanelDrawsTheModelAndReportsTheUser) {
+    fakes.pasteboard.copyText("Grüße aus Köln");
+    settle();
+    copyImage(kPng);
+    settle();
+    fakes.pasteboard.copyText("  meeting\n notes  ");
+    settle();
+
+    tool->openPanel(Point{500, 500});
+    ASSERT_EQ(fakes.screens.listPanels.size(), 1u);
+    FakeListPanel& panel = *fakes.screens.listPanels[0];
+    EXPECT_TRUE(panel.visible);
+    EXPECT_EQ(panel.frame, tool->panelFrame());
+    EXPECT_EQ(panel.content.placeholder, "Search copies");
+    EXPECT_EQ(panel.content.footer, ClipboardListModel::kFooter);
+    auto rows = panel.rows();
+    ASSERT_EQ(rows.size(), 3u);
+    EXPECT_EQ(rows[0].number, "1");
+    EXPECT_EQ(rows[0].title, "meeting notes");
+    EXPECT_TRUE(rows[0].isSelected);
+    EXPECT_EQ(rows[1].symbol, "photo");
+    EXPECT_EQ(rows[2].app, "com.example.editor");
+
+    // The arrows and the hovering mouse move the highlight the panel draws.
+    EXPECT_FALSE(key(125));
+    EXPECT_EQ(panel.content.selection, 1u);
+    panel.handlers.rowHovered(2, {10, 10});
+    EXPECT_EQ(panel.content.selection, 2u);
+    panel.handlers.rowHovered(0, {10, 10});
+    EXPECT_EQ(panel.content.selection, 2u) << "the list moved under a resting mouse";
+
+    // Typing into the field searches, upper case and accents included.
+    panel.handlers.queryChanged(" KÖLNER ");
+    EXPECT_EQ(panel.content.rowCount, 0u);
+    EXPECT_EQ(panel.content.emptyText, "No copies match “KÖLNER”");
+    panel.handlers.queryChanged("KÖLN");
+    ASSERT_EQ(panel.content.rowCount, 1u);
+    EXPECT_EQ(panel.rows()[0].title, "Grüße aus Köln");
+
+    // A click pastes the row; losing key status closes the panel.
+    panel.handlers.rowClicked(0);
+    EXPECT_FALSE(panel.visible);
+    EXPECT_EQ(fakes.pasteboard.string(pasteboard_type::string), "Grüße aus Köln");
+    tool->openPanel(Point{500, 500});
+    EXPECT_EQ(fakes.screens.listPanels.size(), 1u) << "one panel, made on first use";
+    EXPECT_EQ(panel.content.query, "") << "each opening starts a new search";
+    panel.handlers.resignedKey();
+    fakes.scheduler.runPending();
+    EXPECT_FALSE(tool->isPanelOpen());
+    EXPECT_FALSE(panel.visible);
+}
+
 TEST_F(ClipboardHistoryToolTest, RightClickWithTheTriggerOpensAtThePointer) {
     tool->setMouseTrigger(MouseTrigger::controlOption);
     ASSERT_EQ(fakes.events.taps.size(), 1u);

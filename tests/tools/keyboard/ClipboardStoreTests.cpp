@@ -3,7 +3,9 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include "base/Json.hpp"
 #include "support/TemporaryDirectory.hpp"
+#include "tools/keyboard/ClipboardHistoryFile.hpp"
 
 namespace quorvane {
 namespace {
@@ -94,6 +96,76 @@ TEST(ClipboardStore, ACorruptHistoryIsSetAsideNeverOverwritten) {
     ASSERT_TRUE(loaded.setAside);
     EXPECT_EQ(loaded.setAside->filename().string(), "history.json.corrupt-2");
     EXPECT_FALSE(std::filesystem::exists(store.historyPath()));
+}
+
+TEST(ClipboardStore, TheFileIsPlainJsonWithEveryMemberInByteOrder) {
+    ClipItem item = sample();
+    item.text = "quote\" backslash\\ slash/ \b\f\n\r\t \x01\x1f\x7f ünï 😀";
+    item.filePaths = std::vector<std::string>{"/a", "/b \"c\""};
+    item.imageType = "public.png";
+    item.imageHash = std::string(64, 'f');
+    // What the general JSON writer makes of the same members.
+    Json json = Json::emptyObject();
+    json.set("id", item.id.text());
+    json.set("kind", "text");
+    json.set("text", *item.text);
+    json.set("rich", Json(Json::Object{{"public.rtf", "AAEC/w=="}}));
+    json.set("filePaths", Json(Json::Array{"/a", "/b \"c\""}));
+    json.set("imageType", "public.png");
+    json.set("imageHash", *item.imageHash);
+    json.set("app", "com.example.editor");
+    json.set("date", 800000000.25);
+    ClipItem bare;
+    bare.id = Uuid::random();
+    bare.date = 1;
+    const std::string text = ClipboardHistoryFile::encode({item, bare});
+    EXPECT_EQ(text, "[" + json.serialize() + R"(,{"date":1.0,"id":")" + bare.id.text() +
+                        R"(","kind":"text"}])");
+    const auto decoded = ClipboardHistoryFile::decode(text);
+    ASSERT_TRUE(decoded);
+    EXPECT_EQ(*decoded, (ClipItems{item, bare}));
+
+    // Ill-formed bytes are written as U+FFFD, so the file always reads back.
+    item.text = "bad \xff byte";
+    EXPECT_EQ(ClipboardHistoryFile::decode(ClipboardHistoryFile::encode({item}))->front().text,
+              "bad \xEF\xBF\xBD byte");
+}
+
+TEST(ClipboardStore, TheReaderTakesAnyValidLayoutAndNothingElse) {
+    const std::string id = Uuid::random().text();
+    const auto decode = [](const std::string& text) { return ClipboardHistoryFile::decode(text); };
+    // Any order, white space, escapes, nulls and members of a later version.
+    const auto loose = decode(
+        " [ { \"kind\" : \"files\", \"future\": {\"a\": [1, {\"b\": null}]},"
+        " \"filePaths\": [\"/x\\u00e9\\ud83d\\ude00\"], \"text\": null,"
+        " \"date\": 5, \"id\": \"" +
+        id + "\" } ] ");
+    ASSERT_TRUE(loose);
+    EXPECT_EQ(loose->front().filePaths, std::vector<std::string>{"/xé😀"});
+    EXPECT_EQ(loose->front().date, 5);
+    EXPECT_FALSE(loose->front().text);
+    EXPECT_TRUE(decode("[]"));
+
+    // Every cut of a good file is refused, as are damaged and ill-shaped ones.
+    const std::string good = ClipboardHistoryFile::encode({sample(), sample()});
+    for (std::size_t length = 0; length < good.size(); ++length) {
+        EXPECT_FALSE(decode(good.substr(0, length))) << "cut at " << length;
+    }
+    const std::string item = R"({"date":1,"id":")" + id + R"(","kind":"text")";
+    for (const std::string& bad : {
+             "[" + item + "}]x",                               // text after the array
+             "[" + item + R"(,"kind":"text"}])",               // a member twice
+             std::string(R"([{"date":1,"kind":"text"}])"),     // no id
+             "[" + item + R"(,"text":5}])",                    // a member of the wrong kind
+             "[" + item + R"(,"rich":{"public.rtf":"A"}}])",   // not base64
+             "[" + item + ",\"text\":\"\xC3\x28\"}]",          // not UTF-8
+             "[" + item + R"(,"text":"\ud800"}])",             // a lone surrogate
+             "[" + item + ",\"text\":\"a\nb\"}]",              // a raw control character
+             "[" + item + R"(,"future":[[[[[[[[1]]]]]]]]}])",  // nested too deep
+             std::string(R"([{"date":1,"id":")") + id + R"(","kind":"sound"}])",
+         }) {
+        EXPECT_FALSE(decode(bad)) << bad;
+    }
 }
 
 TEST(ClipboardStore, PruningLeavesOnlyTheKeptImages) {
