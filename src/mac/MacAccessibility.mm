@@ -90,6 +90,10 @@ std::optional<AccessibilityValue> fromCF(CFTypeRef value) {
     if (type == CFStringGetTypeID()) {
         return utf8String(static_cast<CFStringRef>(value));
     }
+    // The Dock's items name their application by URL (AXURL); CFURLGetString is a Get, +0.
+    if (type == CFURLGetTypeID()) {
+        return utf8String(CFURLGetString(static_cast<CFURLRef>(value)));
+    }
     if (type == CFBooleanGetTypeID()) {
         return static_cast<bool>(CFBooleanGetValue(static_cast<CFBooleanRef>(value)));
     }
@@ -221,7 +225,7 @@ private:
 };
 
 // Takes ownership of what a Copy call returned (+1, even alongside a failure status) and
-// converts it; a kind Quorvane never reads, such as a URL or a date, reads as no value.
+// converts it; a kind Quorvane never reads, such as a date, reads as no value.
 std::int32_t adoptCopiedValue(AXError status, CFTypeRef raw, AccessibilityValue& value) {
     const auto owned = CFRef<CFTypeRef>::adopt(raw);
     if (status != kAXErrorSuccess) {

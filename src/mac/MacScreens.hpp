@@ -12,6 +12,8 @@ public:
     Point mouseLocation() override;
     void beep() override;
     std::unique_ptr<Panel> makeFloatingPanel() override;
+    std::unique_ptr<Overlay> makeOverlay() override;
+    bool summonDock(Point bottomEdge) override;
 };
 
 }  // namespace quorvane

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "base/Point.hpp"
+#include "platform/Overlay.hpp"
 #include "platform/Panel.hpp"
 #include "platform/Screen.hpp"
 
@@ -23,6 +24,12 @@ public:
     virtual void beep() = 0;
     // A new, hidden floating panel; nothing where there is no window system.
     virtual std::unique_ptr<Panel> makeFloatingPanel() = 0;
+    // A new, hidden shade for dimming; nothing where there is no window system.
+    virtual std::unique_ptr<Overlay> makeOverlay() { return nullptr; }
+    // Makes the Dock come to the display whose bottom edge holds the point (accessibility
+    // coordinates) at once. The system offers no interface for this, so this one call imitates
+    // the user's push, and answers false where it cannot.
+    virtual bool summonDock(Point /*bottomEdge*/) { return false; }
 };
 
 }  // namespace quorvane

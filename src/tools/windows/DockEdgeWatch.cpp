@@ -1,0 +1,18 @@
+#include "tools/windows/DockEdgeWatch.hpp"
+
+namespace quorvane {
+
+std::optional<Point> DockEdgeWatch::moved(Point location, const DisplayLayout& displays,
+                                          std::optional<std::size_t> dockDisplay, Seconds now) {
+    const auto display = displays.displayContaining(location);
+    const bool atEdge = display && location.y >= displays.frame(*display).maxY() - kEdge;
+    const bool arrived = atEdge && !atEdge_;
+    atEdge_ = atEdge;
+    if (!arrived || display == dockDisplay || (last_ && now - *last_ < kCooldown)) {
+        return std::nullopt;
+    }
+    last_ = now;
+    return Point{location.x, displays.frame(*display).maxY() - 1};
+}
+
+}  // namespace quorvane
