@@ -34,12 +34,12 @@ void RestoreWindowLayoutTool::start() {
     stop();
     running_ = true;
     tokens_.push_back(
-        platform_.displayConfiguration.observeReconfiguration([this] { displaysChanged(); }));
+        platform_.displayConfiguration.observeReconfiguration([this] { displaysChanged(false); }));
     for (const auto notification :
          {WorkspaceNotification::screensDidWake, WorkspaceNotification::didWake}) {
         tokens_.push_back(platform_.workspace.observe(notification, [this](const auto*) {
             if (afterWake_) {
-                displaysChanged();
+                displaysChanged(true);
             }
         }));
     }
@@ -64,14 +64,22 @@ void RestoreWindowLayoutTool::setRestoresAfterWake(bool on) {
     publish();
 }
 
-void RestoreWindowLayoutTool::displaysChanged() {
+void RestoreWindowLayoutTool::displaysChanged(bool woke) {
     // No snapshot until the windows are back: what macOS left them as is not worth keeping.
     snapshotTimer_.cancel();
+    wokeSinceChange_ = wokeSinceChange_ || woke;
     settleTimer_ = platform_.scheduler.after(kSettleDelay, [this] { settled(); });
 }
 
 void RestoreWindowLayoutTool::settled() {
-    restoreNow();
+    // A change of resolution or of the Dock leaves the same displays connected: the windows
+    // stay as the user has them, rather than going back to a snapshot up to half a minute old.
+    const std::string key = WindowSnapshot::displayKey(
+        DisplayLayout::read(platform_.screens, platform_.displayConfiguration).ids());
+    if (key != snapshotKey_ || wokeSinceChange_) {
+        restoreNow();
+    }
+    wokeSinceChange_ = false;
     takeSnapshot();
     snapshotTimer_ = platform_.scheduler.every(kSnapshotInterval, [this] { takeSnapshot(); });
 }
@@ -87,6 +95,7 @@ void RestoreWindowLayoutTool::takeSnapshot() {
                             platform_.scheduler.date()};
     std::sort(snapshot.displays.begin(), snapshot.displays.end());
     const std::string key = snapshot.displayKey();
+    snapshotKey_ = key;
     if (const WindowSnapshot* old = snapshots_.find(key); old && old->windows == snapshot.windows) {
         return;  // unchanged: no write every half minute
     }

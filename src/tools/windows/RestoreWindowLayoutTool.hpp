@@ -46,7 +46,7 @@ public:
     const std::string& lastError() const { return lastError_; }
 
 private:
-    void displaysChanged();
+    void displaysChanged(bool woke);
     void settled();
     void save();
     void setLastError(std::string error);
@@ -59,6 +59,9 @@ private:
     bool afterWake_ = true;
     bool running_ = false;
     int lastRestored_ = 0;
+    // The display set of the latest snapshot, and whether a wake came since the last change.
+    std::string snapshotKey_;
+    bool wokeSinceChange_ = false;
     std::vector<Subscription> tokens_;
     Timer snapshotTimer_;
     Timer settleTimer_;

@@ -12,8 +12,9 @@ SettingsPage WindowScreenMemoryTool::settingsPage() {
     main.rows.push_back(
         {SettingsRow::Note{
              "When you move or resize an app's window, Quorvane remembers the display and the "
-             "spot. The app's next new window opens there. If that display is no longer "
-             "connected, the window opens at the same spot on the main display."},
+             "spot. When the app next opens a window while it has none open, the window opens "
+             "there. If that display is no longer connected, it opens at the same spot on the "
+             "main display."},
          {}});
     main.rows.push_back(
         {SettingsRow::Toggle{"Restore the size too", [this] { return restoreSize_; },
@@ -22,8 +23,9 @@ SettingsPage WindowScreenMemoryTool::settingsPage() {
     main.rows.push_back(
         {SettingsRow::Note{
              "Only standard windows are placed; sheets, panels and pop-ups stay where their app "
-             "puts them. Windows an app restores itself when it starts keep the app's own "
-             "places, and a window is never moved to another desktop (Space)."},
+             "puts them. Further windows of an app that already has one open, like the ones "
+             "an app reopens when it starts, keep the app's own places. A window is never "
+             "moved to another desktop (Space)."},
          {}});
     main.rows.push_back(
         {SettingsRow::ItemList{"Remembered apps",

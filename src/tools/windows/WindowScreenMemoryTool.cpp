@@ -60,7 +60,12 @@ void WindowScreenMemoryTool::notified(const Element& window, const std::string& 
         return;  // sheets, panels and pop-ups keep wherever their app puts them
     }
     if (notification == kWindowCreated) {
-        place(window, app->bundleID);
+        if (!hasOtherWindow(pid, window)) {
+            place(window, app->bundleID);
+        }
+        return;
+    }
+    if (notification != kWindowMoved && notification != kWindowResized) {
         return;
     }
     const auto frame = windows_.frame(window);
@@ -70,6 +75,24 @@ void WindowScreenMemoryTool::notified(const Element& window, const std::string& 
     memory_.remember(app->bundleID, *frame,
                      DisplayLayout::read(platform_.screens, platform_.displayConfiguration));
     scheduleSave();
+}
+
+bool WindowScreenMemoryTool::hasOtherWindow(int pid, const Element& window) {
+    // An app that reopens several windows at launch, or adds one beside another, places them
+    // relative to each other; moving them all to one spot would pile them up.
+    const auto own = windows_.title(window);
+    const auto frame = windows_.frame(window);
+    for (const Element& other : windows_.windows(pid)) {
+        if (other == window || !windows_.isStandard(other) || windows_.isMinimized(other)) {
+            continue;
+        }
+        // The same window as another element: the app lists the new window already.
+        if (windows_.title(other) == own && windows_.frame(other) == frame) {
+            continue;
+        }
+        return true;
+    }
+    return false;
 }
 
 void WindowScreenMemoryTool::place(const Element& window, const std::string& bundleID) {

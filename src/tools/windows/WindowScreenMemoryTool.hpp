@@ -42,6 +42,7 @@ public:
 
 private:
     void notified(const Element& window, const std::string& notification, int pid);
+    bool hasOtherWindow(int pid, const Element& window);
     void place(const Element& window, const std::string& bundleID);
     void scheduleSave();
     void save();

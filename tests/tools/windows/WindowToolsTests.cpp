@@ -117,6 +117,17 @@ TEST_F(WindowToolsTest, WindowsReturnWhenTheirDisplaysComeBack) {
     EXPECT_EQ(tool.lastRestoredCount(), 1) << "the quit editor's window is skipped";
     EXPECT_EQ(tool.snapshots().all().size(), 2u);
 
+    // A new resolution leaves the same displays: what the user did since the snapshot stays.
+    fakes.accessibility.attributes[{inbox.get(), "AXPosition"}] = Point{1700, 200};
+    fakes.displayConfiguration.reconfigure();
+    fakes.scheduler.advance(RestoreWindowLayoutTool::kSettleDelay);
+    EXPECT_EQ(frame(inbox), Rect(1700, 200, 1000, 700));
+    // Waking restores even so: macOS may have moved windows while the displays slept.
+    fakes.accessibility.attributes[{inbox.get(), "AXPosition"}] = Point{0, 25};
+    fakes.workspace.post(WorkspaceNotification::screensDidWake);
+    fakes.scheduler.advance(RestoreWindowLayoutTool::kSettleDelay);
+    EXPECT_EQ(frame(inbox), Rect(1700, 200, 1000, 700));
+
     // Both arrangements are kept for next time.
     RestoreWindowLayoutTool later(catalogDescriptor("restore-window-layout"), fakes.platform());
     EXPECT_EQ(later.snapshots().all().size(), 2u);
@@ -155,14 +166,22 @@ TEST_F(WindowToolsTest, NewWindowsOpenWhereTheirAppLastHadOne) {
     fakes.scheduler.advance(WindowScreenMemoryTool::kSaveDelay);
     EXPECT_TRUE(fakes.preferences.data(WindowScreenMemoryTool::kPlacesKey));
 
+    const Element beside = addWindow(100, {20, 40, 640, 480});
+    notify(100, beside, "AXWindowCreated");
+    EXPECT_EQ(frame(beside), Rect(20, 40, 640, 480)) << "the app has a window open already";
+    closeWindow(100, first);
+    closeWindow(100, beside);
+
     const Element second = addWindow(100, {20, 40, 640, 480});
     notify(100, second, "AXWindowCreated");
     EXPECT_EQ(frame(second), Rect(1540, 20, 800, 600)) << "on the monitor, at the same spot";
+    closeWindow(100, second);
 
     plugMonitor(false);
     const Element third = addWindow(100, {20, 40, 640, 480});
     notify(100, third, "AXWindowCreated");
     EXPECT_EQ(frame(third), Rect(100, 25, 800, 600)) << "the main display, below the menu bar";
+    closeWindow(100, third);
 
     auto& a = fakes.accessibility;
     const Element sheet = addWindow(100, {20, 40, 300, 200});
