@@ -13,6 +13,7 @@
 #include "tools/windows/WindowLayoutsTool.hpp"
 #include "tools/windows/WindowScreenMemoryTool.hpp"
 #include "tools/windows/WindowSnapTool.hpp"
+#include "tools/windows/WindowSwitcherTool.hpp"
 
 namespace quorvane {
 
@@ -32,6 +33,7 @@ const ToolFactories& windowsTools() {
         {"window-layouts", &buildTool<WindowLayoutsTool>},
         {"window-screen-memory", &buildTool<WindowScreenMemoryTool>},
         {"window-snap", &buildTool<WindowSnapTool>},
+        {"window-switcher", &buildTool<WindowSwitcherTool>},
     };
     return factories;
 }

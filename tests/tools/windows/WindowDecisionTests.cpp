@@ -2,6 +2,7 @@
 
 #include "tools/windows/DimFollower.hpp"
 #include "tools/windows/LastWindowRule.hpp"
+#include "tools/windows/WindowSwitcherEngine.hpp"
 #include "tools/windows/ZoomToggle.hpp"
 
 namespace quorvane {
@@ -90,6 +91,23 @@ TEST(WindowDecisions, DimmingReordersOncePerChangeOfFocusedWindow) {
     EXPECT_EQ(follower.focusChanged(std::nullopt), DimFollower::Outcome{});
     EXPECT_EQ(follower.focusChanged(20), (DimFollower::Outcome{Step::reorder, 20}))
         << "shown again under the same window after the desktop";
+}
+
+TEST(WindowDecisions, TheSwitcherGoesRoundBothWays) {
+    WindowSwitcherEngine engine;
+    EXPECT_FALSE(engine.open({})) << "nothing to switch to";
+    ASSERT_TRUE(engine.open({{"Mail", "Inbox"}, {"Editor", ""}, {"Notes", "Today"}}));
+    EXPECT_EQ(engine.selected(), 1u);
+    EXPECT_EQ(engine.caption(), "Editor\n2 of 3 · let go to switch, Esc to stay");
+    engine.step(1);
+    engine.step(1);
+    EXPECT_EQ(engine.selected(), 0u);
+    engine.step(-1);
+    EXPECT_EQ(engine.selected(), 2u);
+    EXPECT_EQ(engine.commit(), 2u);
+    EXPECT_EQ(engine.commit(), std::nullopt) << "closed";
+    ASSERT_TRUE(engine.open({{"Mail", "Inbox"}}));
+    EXPECT_EQ(engine.selected(), 0u) << "a single window is its own pick";
 }
 
 }  // namespace

@@ -16,6 +16,7 @@
 #include "tools/windows/RestoreWindowLayoutTool.hpp"
 #include "tools/windows/WindowLayoutsTool.hpp"
 #include "tools/windows/WindowScreenMemoryTool.hpp"
+#include "tools/windows/WindowSwitcherTool.hpp"
 
 namespace quorvane {
 namespace {
@@ -439,6 +440,46 @@ TEST_F(WindowToolsTest, PinningFailsSoftWhereTheSystemRefuses) {
     EXPECT_EQ(tool.pinned(), std::nullopt);
     EXPECT_EQ(fakes.windowList.keepAboveCalls.back(), (std::pair<std::uint32_t, bool>{11, false}))
         << "turning the tool off lets the window go";
+}
+
+TEST_F(WindowToolsTest, TheSwitcherGoesThroughWindowsFrontToBackAndSwitchesOnRelease) {
+    const Element inbox = addWindow(100, {0, 25, 800, 600}, "Inbox");
+    const Element notes = addWindow(200, {900, 25, 500, 500}, "notes.txt");
+    fakes.windowList.windows = {{21, 200, 0, {900, 25, 500, 500}}, {11, 100, 0, {0, 25, 800, 600}}};
+    WindowSwitcherTool tool(catalogDescriptor("window-switcher"), fakes.platform());
+    tool.start();
+    const auto key = [&](std::uint32_t code, std::uint64_t flags) {
+        FakeEvent event = FakeEvent::keyDown(code, flags);
+        return fakes.events.deliver(*fakes.events.taps.at(0), EventType::keyDown, event);
+    };
+    const auto release = [&] {
+        FakeEvent event;
+        event.eventType = EventType::flagsChanged;
+        fakes.events.deliver(*fakes.events.taps.at(0), EventType::flagsChanged, event);
+    };
+    const auto caption = [&] { return fakes.screens.panels.at(0)->content.title; };
+
+    tool.pressed();
+    ASSERT_TRUE(tool.isOpen());
+    EXPECT_EQ(caption().substr(0, caption().find('\n')), "Mail — Inbox")
+        << "the window behind the front one";
+    EXPECT_FALSE(key(WindowSwitcherTool::kTabKeyCode, modifierFlag::option));
+    EXPECT_EQ(caption().substr(0, caption().find('\n')), "Editor — notes.txt");
+    EXPECT_FALSE(key(WindowSwitcherTool::kTabKeyCode, modifierFlag::option | modifierFlag::shift));
+    EXPECT_TRUE(key(0, modifierFlag::option)) << "other keys pass";
+    release();
+    EXPECT_FALSE(tool.isOpen());
+    ASSERT_FALSE(fakes.accessibility.actions.empty());
+    EXPECT_EQ(fakes.accessibility.actions.back(),
+              (std::pair<Element, std::string>(inbox, "AXRaise")));
+
+    tool.pressed();
+    EXPECT_FALSE(key(KeyCombo::kEscapeKeyCode, modifierFlag::option));
+    release();
+    EXPECT_EQ(fakes.accessibility.actions.size(), 1u) << "Esc stays";
+    EXPECT_FALSE(fakes.input.hud.isHeld());
+    (void)notes;
+    tool.stop();
 }
 
 }  // namespace
