@@ -2,13 +2,14 @@
 
 namespace quorvane {
 
-std::optional<Point> DockEdgeWatch::moved(Point location, const DisplayLayout& displays,
-                                          std::optional<std::size_t> dockDisplay, Seconds now) {
+std::optional<Point> DockEdgeWatch::moved(
+    Point location, const DisplayLayout& displays,
+    const std::function<std::optional<std::size_t>()>& dockDisplay, Seconds now) {
     const auto display = displays.displayContaining(location);
     const bool atEdge = display && location.y >= displays.frame(*display).maxY() - kEdge;
     const bool arrived = atEdge && !atEdge_;
     atEdge_ = atEdge;
-    if (!arrived || display == dockDisplay || (last_ && now - *last_ < kCooldown)) {
+    if (!arrived || (last_ && now - *last_ < kCooldown) || display == dockDisplay()) {
         return std::nullopt;
     }
     last_ = now;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 
 #include "base/Point.hpp"
@@ -19,8 +20,10 @@ public:
     static constexpr Seconds kCooldown{1.0};
 
     // The point to push the Dock from; nothing most of the time. Accessibility coordinates.
+    // Where the Dock is costs a message to the Dock, so it is asked only on an arrival.
     std::optional<Point> moved(Point location, const DisplayLayout& displays,
-                               std::optional<std::size_t> dockDisplay, Seconds now);
+                               const std::function<std::optional<std::size_t>()>& dockDisplay,
+                               Seconds now);
 
 private:
     bool atEdge_ = false;

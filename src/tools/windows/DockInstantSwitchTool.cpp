@@ -45,14 +45,9 @@ void DockInstantSwitchTool::moved(Point location) {
     if (displays.count() < 2) {
         return;
     }
-    // Asking the Dock where it is costs a message, so only at an edge: the watch answers
-    // nothing elsewhere whatever the Dock's display.
-    auto push = watch_.moved(location, displays, std::nullopt, platform_.scheduler.now());
+    const auto push = watch_.moved(
+        location, displays, [&] { return dockDisplay(displays); }, platform_.scheduler.now());
     if (!push) {
-        return;
-    }
-    const auto onDisplay = displays.displayContaining(location);
-    if (onDisplay && onDisplay == dockDisplay(displays)) {
         return;
     }
     if (platform_.screens.summonDock(*push)) {

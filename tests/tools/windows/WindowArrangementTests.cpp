@@ -111,5 +111,19 @@ TEST(WindowArrangement, NewWindowsGoToTheRememberedDisplayOrTheMainOne) {
     EXPECT_FALSE(ScreenMemory::decode(R"({"a": {"displayID": 3}})"));
 }
 
+TEST(WindowArrangement, FramesAreKeptInsideTheDisplayTheyMostlyShowOn) {
+    const DisplayLayout both({kLaptop, kMonitor});
+    EXPECT_EQ(both.clampToVisibleArea({1300, 100, 400, 300}), Rect(1440, 100, 400, 300))
+        << "straddling: wholly onto the display holding its centre";
+    EXPECT_EQ(both.clampToVisibleArea({-350, 500, 400, 300}), Rect(0, 500, 400, 300))
+        << "mostly off every display: pulled onto the one it touches";
+    EXPECT_EQ(both.clampToVisibleArea({1000, -50, 400, 300}), Rect(1000, 25, 400, 300))
+        << "not under the menu bar";
+    EXPECT_EQ(both.clampToVisibleArea({3000, 900, 600, 400}), Rect(2760, 680, 600, 400));
+    EXPECT_EQ(DisplayLayout({}).clampToVisibleArea({5, 5, 10, 10}), Rect(5, 5, 10, 10));
+    EXPECT_EQ(both.indexOf("monitor"), 1u);
+    EXPECT_EQ(both.indexOf(""), std::nullopt) << "an unknown display matches nothing";
+}
+
 }  // namespace
 }  // namespace quorvane

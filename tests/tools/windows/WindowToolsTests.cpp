@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <set>
 #include <sstream>
 #include "platform/EventField.hpp"
 #include "support/CatalogDescriptor.hpp"
@@ -85,6 +86,14 @@ struct WindowToolsTest : ::testing::Test {
         }
         a.attributes[{list.get(), "AXChildren"}] = items;
         fakes.windowList.windows.push_back({900, 50, 20, {400, 840, 640, 60}});
+    }
+    // One mouse event through the tool's tap; true when it went on to the system.
+    bool send(EventType type, Point at, std::uint64_t flags = 0) {
+        FakeEvent event;
+        event.eventType = type;
+        event.eventFlags = flags;
+        event.point = at;
+        return fakes.events.deliver(*fakes.events.taps.at(0), type, event);
     }
     void click() {
         FakeEvent event;
@@ -184,6 +193,26 @@ TEST_F(WindowToolsTest, NewWindowsOpenWhereTheirAppLastHadOne) {
     EXPECT_EQ(frame(third), Rect(100, 25, 800, 600)) << "the main display, below the menu bar";
     closeWindow(100, third);
 
+    tool.setRestoresSize(false);
+    const Element small = addWindow(100, {20, 40, 640, 480});
+    notify(100, small, "AXWindowCreated");
+    EXPECT_EQ(frame(small), Rect(100, 25, 640, 480)) << "moved, its own size kept";
+    closeWindow(100, small);
+
+    // Forgetting the app from its page: its next window stays where the app puts it.
+    const auto page = tool.settingsPage();
+    for (const auto& row : page.sections[0].rows) {
+        if (const auto* list = std::get_if<SettingsRow::ItemList>(&row.kind)) {
+            EXPECT_EQ(list->items(), std::vector<std::string>{"Mail"});
+            list->remove(0);
+        }
+    }
+    EXPECT_TRUE(tool.memory().places().empty());
+    const Element free = addWindow(100, {20, 40, 640, 480});
+    notify(100, free, "AXWindowCreated");
+    EXPECT_EQ(frame(free), Rect(20, 40, 640, 480));
+    closeWindow(100, free);
+
     auto& a = fakes.accessibility;
     const Element sheet = addWindow(100, {20, 40, 300, 200});
     a.attributes[{sheet.get(), "AXSubrole"}] = std::string("AXDialog");
@@ -232,6 +261,23 @@ TEST_F(WindowToolsTest, ClosingTheLastWindowQuitsTheAppButNotFinderOrAMinimizedO
     closeWindow(100, later);
     fakes.scheduler.advance(QuitOnLastWindowTool::kSettleDelay);
     EXPECT_EQ(fakes.workspace.terminated, std::vector<int>{100});
+
+    // Closing a document that opens the next one in its place: still a window, no quit.
+    const Element first = addWindow(200, {10, 30, 500, 500});
+    fakes.accessibility.attributes.erase({hidden.get(), "AXMinimized"});
+    closeWindow(200, hidden);
+    click();
+    closeWindow(200, first);
+    const Element next = addWindow(200, {10, 30, 500, 500});
+    fakes.scheduler.advance(QuitOnLastWindowTool::kSettleDelay);
+    EXPECT_EQ(fakes.workspace.terminated, std::vector<int>{100});
+    // Only an inspector left open counts as nothing open.
+    const Element palette = addWindow(200, {600, 30, 200, 300});
+    fakes.accessibility.attributes[{palette.get(), "AXSubrole"}] = std::string("AXFloatingWindow");
+    click();
+    closeWindow(200, next);
+    fakes.scheduler.advance(QuitOnLastWindowTool::kSettleDelay);
+    EXPECT_EQ(fakes.workspace.terminated, (std::vector<int>{100, 200}));
     tool.stop();
 }
 
@@ -247,13 +293,6 @@ TEST_F(WindowToolsTest, TheGreenButtonFillsTheScreenAndASecondClickRestores) {
     GreenButtonMaximizeTool tool(catalogDescriptor("green-button-maximize"), fakes.platform());
     tool.start();
     ASSERT_EQ(fakes.events.taps.size(), 1u);
-    const auto send = [&](EventType type, Point at, std::uint64_t flags = 0) {
-        FakeEvent event;
-        event.eventType = type;
-        event.eventFlags = flags;
-        event.point = at;
-        return fakes.events.deliver(*fakes.events.taps.at(0), type, event);
-    };
 
     EXPECT_FALSE(send(EventType::leftMouseDown, {165, 110}));
     EXPECT_FALSE(send(EventType::leftMouseUp, {165, 110}));
@@ -279,6 +318,14 @@ TEST_F(WindowToolsTest, TheGreenButtonFillsTheScreenAndASecondClickRestores) {
     EXPECT_FALSE(send(EventType::leftMouseUp, {400, 300})) << "released off the button";
     EXPECT_TRUE(send(EventType::leftMouseDown, {400, 300})) << "inside the window";
     EXPECT_EQ(frame(window), Rect(100, 100, 600, 400));
+
+    // On the monitor it fills the monitor.
+    a.attributes[{window.get(), "AXPosition"}] = Point{2000, 100};
+    follow();
+    a.attributes[{button.get(), "AXPosition"}] = Point{2060, 106};
+    EXPECT_FALSE(send(EventType::leftMouseDown, {2065, 110}));
+    EXPECT_FALSE(send(EventType::leftMouseUp, {2065, 110}));
+    EXPECT_EQ(frame(window), Rect(1440, 0, 1920, 1080));
     tool.stop();
     EXPECT_TRUE(fakes.events.taps.empty());
 }
@@ -315,6 +362,14 @@ TEST_F(WindowToolsTest, TheShadeFollowsFocusWithOneReorderPerChange) {
                          &fakes.workspace.applications.at(300));
     fakes.scheduler.runPending();
     EXPECT_FALSE(fakes.screens.overlays[0]->visible);
+
+    // One display unplugged: the shades are made again and go under the focused window at once.
+    plugMonitor(false);
+    fakes.workspace.frontmostPID = 200;
+    fakes.displayConfiguration.reconfigure();
+    fakes.scheduler.runPending();
+    ASSERT_EQ(fakes.screens.overlays.size(), 1u);
+    EXPECT_EQ(fakes.screens.overlays[0]->orders, std::vector<std::uint32_t>{21});
 
     tool.setAmount(5);
     EXPECT_EQ(tool.amount(), DimBackgroundTool::kMaximumAmount);
@@ -368,13 +423,6 @@ TEST_F(WindowToolsTest, ADockClickHidesOnlyTheAppInFront) {
              {"file:///Applications/Editor.app/", {470, 850, 48, 48}}});
     DockMinimizeTool tool(catalogDescriptor("dock-minimize"), fakes.platform());
     tool.start();
-    const auto send = [&](EventType type, Point at, std::uint64_t flags = 0) {
-        FakeEvent event;
-        event.eventType = type;
-        event.eventFlags = flags;
-        event.point = at;
-        return fakes.events.deliver(*fakes.events.taps.at(0), type, event);
-    };
     EXPECT_FALSE(send(EventType::leftMouseDown, {440, 870}));
     EXPECT_FALSE(send(EventType::leftMouseUp, {440, 870}));
     EXPECT_EQ(fakes.workspace.hidden, std::vector<int>{100});
@@ -389,15 +437,19 @@ TEST_F(WindowToolsTest, ADockClickHidesOnlyTheAppInFront) {
 
 TEST_F(WindowToolsTest, TheDockComesToAnotherDisplayAtOnceOrSaysWhyNot) {
     DockEdgeWatch watch;
+    const std::function<std::optional<std::size_t>()> onLaptop = [] { return std::size_t{0}; };
     const DisplayLayout both = DisplayLayout::read(fakes.screens, fakes.displayConfiguration);
-    EXPECT_EQ(watch.moved({2000, 1079}, both, 0, Seconds(0)), (Point{2000, 1079}));
-    EXPECT_EQ(watch.moved({2100, 1079.5}, both, 0, Seconds(0.1)), std::nullopt) << "still there";
-    watch.moved({2100, 900}, both, 0, Seconds(0.2));
-    EXPECT_EQ(watch.moved({2100, 1079}, both, 0, Seconds(0.5)), std::nullopt) << "cooling down";
-    watch.moved({2100, 900}, both, 0, Seconds(1.4));
-    EXPECT_EQ(watch.moved({2100, 1079}, both, 0, Seconds(1.5)), (Point{2100, 1079}));
-    watch.moved({500, 500}, both, 0, Seconds(3));
-    EXPECT_EQ(watch.moved({500, 899}, both, 0, Seconds(4)), std::nullopt) << "the Dock's own";
+    EXPECT_EQ(watch.moved({2000, 1079}, both, onLaptop, Seconds(0)), (Point{2000, 1079}));
+    EXPECT_EQ(watch.moved({2100, 1079.5}, both, onLaptop, Seconds(0.1)), std::nullopt)
+        << "still there";
+    watch.moved({2100, 900}, both, onLaptop, Seconds(0.2));
+    EXPECT_EQ(watch.moved({2100, 1079}, both, onLaptop, Seconds(0.5)), std::nullopt)
+        << "cooling down";
+    watch.moved({2100, 900}, both, onLaptop, Seconds(1.4));
+    EXPECT_EQ(watch.moved({2100, 1079}, both, onLaptop, Seconds(1.5)), (Point{2100, 1079}));
+    watch.moved({500, 500}, both, onLaptop, Seconds(3));
+    EXPECT_EQ(watch.moved({500, 899}, both, onLaptop, Seconds(4)), std::nullopt)
+        << "the Dock's own";
 
     addDock({{"file:///Applications/Mail.app/", {420, 850, 48, 48}}});
     DockInstantSwitchTool tool(catalogDescriptor("dock-instant-switch"), fakes.platform());
@@ -480,6 +532,32 @@ TEST_F(WindowToolsTest, TheSwitcherGoesThroughWindowsFrontToBackAndSwitchesOnRel
     EXPECT_FALSE(fakes.input.hud.isHeld());
     (void)notes;
     tool.stop();
+}
+
+TEST_F(WindowToolsTest, EveryWindowToolIsBuiltAndItsPageSaysWhatItCannotDo) {
+    for (auto& tool : ToolCatalog::makeTools(fakes.platform())) {
+        static const std::set<std::string> kBuiltHere = {
+            "restore-window-layout", "window-screen-memory", "window-layouts",
+            "green-button-maximize", "quit-on-last-window",  "pin-window",
+            "window-switcher",       "dock-minimize",        "dock-instant-switch",
+            "dim-background"};
+        if (!kBuiltHere.contains(tool->id())) {
+            continue;
+        }
+        EXPECT_TRUE(tool->isAvailable()) << tool->id();
+        std::string text;
+        for (const auto& section : tool->settingsPage().sections) {
+            for (const auto& row : section.rows) {
+                if (const auto* note = std::get_if<SettingsRow::Note>(&row.kind)) {
+                    text += note->text;
+                }
+            }
+        }
+        const bool saysLimits =
+            text.find("not") != std::string::npos || text.find("never") != std::string::npos ||
+            text.find("only") != std::string::npos || text.find("Only") != std::string::npos;
+        EXPECT_TRUE(saysLimits) << tool->id() << ": " << text;
+    }
 }
 
 }  // namespace
