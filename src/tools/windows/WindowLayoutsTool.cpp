@@ -28,7 +28,6 @@ WindowLayoutsTool::WindowLayoutsTool(const ToolDescriptor& descriptor, const Pla
 }
 
 void WindowLayoutsTool::stop() {
-    running_ = false;
     retries_.clear();
 }
 

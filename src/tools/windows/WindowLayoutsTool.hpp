@@ -27,7 +27,7 @@ public:
     WindowLayoutsTool(const ToolDescriptor& descriptor, const Platform& platform);
 
     const ToolIdentity& identity() const override { return descriptor_.identity; }
-    void start() override { running_ = true; }
+    void start() override {}
     void stop() override;
     SettingsPage settingsPage() override;
 
@@ -49,7 +49,6 @@ private:
     AccessibleWindows windows_;
     WindowSnapshots layouts_;
     bool unreadable_ = false;
-    bool running_ = false;
     std::string pendingName_;
     std::string draft_;
     std::vector<Timer> retries_;
