@@ -14,6 +14,7 @@
 #include "cli/DormantTool.hpp"
 #include "cli/EqCommand.hpp"
 #include "cli/KeysCommand.hpp"
+#include "cli/LayoutsCommand.hpp"
 #include "cli/SettingsTextRenderer.hpp"
 #include "cli/SnippetsCommand.hpp"
 #include "input/InputServices.hpp"
@@ -29,6 +30,7 @@
 #include "portable/PortableAccessibility.hpp"
 #include "portable/PortableAudioHardware.hpp"
 #include "portable/PortableDateFormatting.hpp"
+#include "portable/PortableDisplayConfiguration.hpp"
 #include "portable/PortableEventMonitors.hpp"
 #include "portable/PortableEventSystem.hpp"
 #include "portable/PortableHIDEventServices.hpp"
@@ -39,6 +41,7 @@
 #include "portable/PortablePermissionProbe.hpp"
 #include "portable/PortableProcessFacts.hpp"
 #include "portable/PortableScreens.hpp"
+#include "portable/PortableSystemLog.hpp"
 #include "portable/PortableThumbnails.hpp"
 #include "portable/PortableWindowList.hpp"
 #include "portable/PortableWorkspace.hpp"
@@ -100,6 +103,8 @@ struct Session {
     PortableHashing hashing;
     std::optional<Platform> platform;
     PortableDateFormatting dateFormatting;
+    PortableDisplayConfiguration displayConfiguration;
+    PortableSystemLog systemLog;
     std::unique_ptr<PermissionCenter> permissions;
     std::unique_ptr<ToolRegistry> registry;
 };
@@ -183,6 +188,11 @@ public:
             if (!SnippetsCommand::run(*session_.preferences, operands, out_, error)) {
                 throw CommandError(error);
             }
+        } else if (command == "layouts") {
+            std::string error;
+            if (!LayoutsCommand::run(*session_.preferences, operands, out_, error)) {
+                throw CommandError(error);
+            }
         }
         if (const auto error = session_.preferences->lastError(); !error.empty()) {
             throw CommandError(error);
@@ -214,6 +224,11 @@ private:
         } else if (command == "snippets") {
             std::string error;
             if (!SnippetsCommand::checkShape(operands, error)) {
+                throw CommandError(error);
+            }
+        } else if (command == "layouts") {
+            std::string error;
+            if (!LayoutsCommand::checkShape(operands, error)) {
                 throw CommandError(error);
             }
         } else {
@@ -251,7 +266,9 @@ private:
                           session_.pasteboard,
                           session_.thumbnails,
                           session_.hashing,
-                          session_.dateFormatting};
+                          session_.dateFormatting,
+                          session_.displayConfiguration,
+                          session_.systemLog};
         session_.platform.emplace(platform);
         session_.permissions = std::make_unique<PermissionCenter>(
             session_.probe, session_.scheduler, session_.workspace);
@@ -444,7 +461,7 @@ std::string CommandLine::usage() {
            "  controls remove ID         remove a tool's tile\n"
            "  settings ID                a tool's settings page, as text\n" +
            SnippetsCommand::usage() + EqCommand::usage() + KeysCommand::usage() +
-           ClipboardCommand::usage() +
+           ClipboardCommand::usage() + LayoutsCommand::usage() +
            "\n"
            "Options:\n"
            "  --prefs FILE               use this preferences file instead of Quorvane's own\n"

@@ -34,6 +34,8 @@
 #include "mac/MacDateFormatting.hpp"
 #include "mac/MacHashing.hpp"
 #include "mac/MacThumbnails.hpp"
+#include "mac/MacDisplayConfiguration.hpp"
+#include "mac/MacSystemLog.hpp"
 
 namespace quorvane {
 
@@ -65,12 +67,15 @@ struct AppState {
     MacThumbnails thumbnails;
     MacHashing hashing;
     MacDateFormatting dateFormatting;
+    MacDisplayConfiguration displayConfiguration;
+    MacSystemLog systemLog;
     Platform platform{preferences,       scheduler,      permissionProbe,  workspace,
                       notifications,     events,         hotKeys,          accessibility,
                       eventMonitors,     screens,        menuBar,          audioHardware,
                       processFacts,      input,          keyboardLayout,   windowList,
                       preferenceDomains, childProcesses, hidEventServices, pasteboard,
-                      thumbnails,        hashing,        dateFormatting};
+                      thumbnails,        hashing,        dateFormatting,   displayConfiguration,
+                      systemLog};
     MacAppWindows windows;
     MacAppInstance instance;
     MacLoginItem loginItem;

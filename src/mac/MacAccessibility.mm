@@ -64,8 +64,9 @@ public:
     Type type(Object object) const override {
         const std::pair<CFTypeID, Type> types[] = {
             {AXUIElementGetTypeID(), Type::element}, {AXValueGetTypeID(), Type::structValue},
-            {CFStringGetTypeID(), Type::string},     {CFBooleanGetTypeID(), Type::boolean},
-            {CFNumberGetTypeID(), Type::number},     {CFArrayGetTypeID(), Type::array},
+            {CFStringGetTypeID(), Type::string},     {CFURLGetTypeID(), Type::url},
+            {CFBooleanGetTypeID(), Type::boolean},   {CFNumberGetTypeID(), Type::number},
+            {CFArrayGetTypeID(), Type::array},
         };
         return kindOf(object, types, Type::other);
     }
@@ -81,6 +82,10 @@ public:
     }
     std::string string(Object object) const override {
         return utf8String(static_cast<CFStringRef>(object));
+    }
+    // CFURLGetString is a Get: +0, owned by the URL.
+    std::string urlString(Object object) const override {
+        return utf8String(CFURLGetString(static_cast<CFURLRef>(object)));
     }
     bool boolean(Object object) const override {
         return CFBooleanGetValue(static_cast<CFBooleanRef>(object));

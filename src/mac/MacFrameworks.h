@@ -29,6 +29,7 @@
 #include <CommonCrypto/CommonDigest.h>
 #include <ImageIO/ImageIO.h>
 #include <libproc.h>
+#include <os/log.h>
 
 // unconfirmed: check on a Mac first (the umbrella name; only SMAppService.h itself was read).
 #import <ServiceManagement/ServiceManagement.h>

@@ -13,6 +13,8 @@ public:
     void beep() override;
     std::unique_ptr<Panel> makeFloatingPanel() override;
     std::unique_ptr<ListPanel> makeListPanel(ListPanel::Handlers handlers) override;
+    std::unique_ptr<Overlay> makeOverlay() override;
+    bool summonDock(Point bottomEdge) override;
 };
 
 }  // namespace quorvane

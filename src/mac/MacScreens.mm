@@ -2,6 +2,8 @@
 
 #include "mac/MacFrameworks.h"
 #include "mac/MacListPanel.hpp"
+#include "mac/CFRef.hpp"
+#include "mac/MacOverlay.hpp"
 #include "mac/MacPanel.hpp"
 
 // unconfirmed: check on a Mac first. +[NSScreen screens], +[NSScreen mainScreen], the frame and
@@ -48,6 +50,29 @@ std::unique_ptr<Panel> MacScreens::makeFloatingPanel() { return std::make_unique
 
 std::unique_ptr<ListPanel> MacScreens::makeListPanel(ListPanel::Handlers handlers) {
     return std::make_unique<MacListPanel>(std::move(handlers));
+}
+
+std::unique_ptr<Overlay> MacScreens::makeOverlay() { return std::make_unique<MacOverlay>(); }
+
+// ⚠ No documented interface moves the Dock. The Dock follows the pointer when it keeps pushing
+// against a display's bottom edge; this posts that push as a few mouse-moved events at the edge
+// whose vertical delta points down (CGEventCreateMouseEvent with kCGEventMouseMoved, the delta
+// in kCGMouseEventDeltaY, posted at the HID tap location). Whether the Dock counts synthesized
+// movement is not confirmed: check on a Mac first. The pointer itself stays where it is.
+bool MacScreens::summonDock(Point bottomEdge) {
+    constexpr int kPushes = 6;
+    constexpr std::int64_t kPushDelta = 8;
+    const CGPoint at = CGPointMake(bottomEdge.x, bottomEdge.y);
+    for (int push = 0; push < kPushes; ++push) {
+        const auto event = CFRef<CGEventRef>::adopt(
+            CGEventCreateMouseEvent(nullptr, kCGEventMouseMoved, at, kCGMouseButtonLeft));
+        if (!event) {
+            return false;
+        }
+        CGEventSetIntegerValueField(event.get(), kCGMouseEventDeltaY, kPushDelta);
+        CGEventPost(kCGHIDEventTap, event.get());
+    }
+    return true;
 }
 
 }  // namespace quorvane

@@ -8,6 +8,8 @@ namespace quorvane {
 class MacWindowList final : public WindowList {
 public:
     std::vector<int> onScreenWindowOwners() override;
+    std::vector<WindowInfo> onScreenWindows() override;
+    bool keepAbove(std::uint32_t windowNumber, bool on) override;
 };
 
 }  // namespace quorvane

@@ -23,4 +23,48 @@ std::vector<int> MacWindowList::onScreenWindowOwners() {
     }
 }
 
+namespace {
+
+// A number of the info dictionary, or nothing when it is missing or not a number.
+NSNumber* numberIn(NSDictionary* info, CFStringRef key) {
+    id value = info[(__bridge id)key];
+    if (![value isKindOfClass:[NSNumber class]]) {
+        return nil;
+    }
+    NSNumber* number = value;
+    return number;
+}
+
+}  // namespace
+
+std::vector<WindowInfo> MacWindowList::onScreenWindows() {
+    @autoreleasepool {
+        std::vector<WindowInfo> result;
+        NSArray* windows = (__bridge_transfer NSArray*)CGWindowListCopyWindowInfo(
+            kCGWindowListOptionOnScreenOnly | kCGWindowListExcludeDesktopElements, kCGNullWindowID);
+        for (NSDictionary* info in windows) {
+            NSNumber* number = numberIn(info, kCGWindowNumber);
+            NSNumber* owner = numberIn(info, kCGWindowOwnerPID);
+            NSNumber* layer = numberIn(info, kCGWindowLayer);
+            id bounds = info[(__bridge id)kCGWindowBounds];
+            CGRect rect = CGRectZero;
+            // kCGWindowBounds is a dictionary form of a CGRect in the global, top-left-origin
+            // space, the same as accessibility frames.
+            if (!number || !owner || !layer || ![bounds isKindOfClass:[NSDictionary class]] ||
+                !CGRectMakeWithDictionaryRepresentation((__bridge CFDictionaryRef)bounds, &rect)) {
+                continue;
+            }
+            result.push_back(
+                {number.unsignedIntValue, owner.intValue, layer.intValue,
+                 Rect(rect.origin.x, rect.origin.y, rect.size.width, rect.size.height)});
+        }
+        return result;
+    }
+}
+
+// No public interface sets the level of another process's window: a window's level belongs to
+// its owner (-[NSWindow setLevel:] acts on this app's windows only). Refusing here keeps the
+// pin tool honest until a supported way exists.
+bool MacWindowList::keepAbove(std::uint32_t /*windowNumber*/, bool /*on*/) { return false; }
+
 }  // namespace quorvane

@@ -15,6 +15,9 @@ public:
     std::optional<RunningApplication> frontmostApplication() override;
     int currentProcessID() override;
     bool activate(int pid) override;
+    bool terminateApplication(int pid) override;
+    bool hideApplication(int pid) override;
+    bool launchApplication(const std::string& bundleID) override;
     [[nodiscard]] Subscription observe(WorkspaceNotification notification,
                                        Handler handler) override;
     [[nodiscard]] Subscription observeDistributed(const std::string& name,

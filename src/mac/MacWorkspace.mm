@@ -159,6 +159,47 @@ bool MacWorkspace::activate(int pid) {
     }
 }
 
+// From Apple's NSRunningApplication reference (check on a Mac first): -terminate "attempts to
+// quit the receiver normally" and returns NO when the request could not be sent (an app that
+// already quit); the app may still ask the user about unsaved documents. -hide returns whether
+// the request was sent. Neither waits for the app to do it.
+bool MacWorkspace::terminateApplication(int pid) {
+    @autoreleasepool {
+        NSRunningApplication* app =
+            [NSRunningApplication runningApplicationWithProcessIdentifier:static_cast<pid_t>(pid)];
+        return app ? [app terminate] : false;
+    }
+}
+
+bool MacWorkspace::hideApplication(int pid) {
+    @autoreleasepool {
+        NSRunningApplication* app =
+            [NSRunningApplication runningApplicationWithProcessIdentifier:static_cast<pid_t>(pid)];
+        return app ? [app hide] : false;
+    }
+}
+
+// -URLForApplicationWithBundleIdentifier: gives nil when no such app is installed;
+// -openApplicationAtURL:configuration:completionHandler: launches asynchronously (macOS 10.15+)
+// and calls back on a concurrent queue, so the handler is left out: the caller places windows
+// as they appear rather than waiting for the launch.
+bool MacWorkspace::launchApplication(const std::string& bundleID) {
+    @autoreleasepool {
+        NSString* identifier = makeNSString(bundleID);
+        NSURL* url = identifier ? [[NSWorkspace sharedWorkspace]
+                                      URLForApplicationWithBundleIdentifier:identifier]
+                                : nil;
+        if (!url) {
+            return false;
+        }
+        [[NSWorkspace sharedWorkspace]
+            openApplicationAtURL:url
+                   configuration:[NSWorkspaceOpenConfiguration configuration]
+               completionHandler:nil];
+        return true;
+    }
+}
+
 Subscription MacWorkspace::observe(WorkspaceNotification notification, Handler handler) {
     @autoreleasepool {
         // Workspace notifications go to the workspace's own centre, not the default one.

@@ -24,6 +24,8 @@ std::optional<AccessibilityValue> readAccessibilityValue(const AccessibilityObje
         }
         case Type::string:
             return objects.string(object);
+        case Type::url:
+            return objects.urlString(object);
         case Type::boolean:
             return objects.boolean(object);
         case Type::number:

@@ -16,7 +16,7 @@ public:
     // Borrowed: valid while the object it came from is.
     using Object = const void*;
     // A struct is an AXValue wrapping a point, size, rectangle or range.
-    enum class Type { element, structValue, string, boolean, number, array, other };
+    enum class Type { element, structValue, string, url, boolean, number, array, other };
 
     virtual ~AccessibilityObjects() = default;
 
@@ -27,13 +27,16 @@ public:
     virtual std::uint32_t structType(Object object) const = 0;
     virtual bool readStruct(Object object, std::uint32_t type, void* bytes) const = 0;
     virtual std::string string(Object object) const = 0;
+    // A URL's text ("file:///Applications/Mail.app/").
+    virtual std::string urlString(Object object) const = 0;
     virtual bool boolean(Object object) const = 0;
     virtual double number(Object object) const = 0;
     virtual std::vector<Object> elements(Object array) const = 0;
 };
 
-// Nothing for a null object or a kind Quorvane never reads (a URL, a date, an AXError value).
-// Numbers read as doubles; of an array only its elements are kept.
+// Nothing for a null object or a kind Quorvane never reads (a date, an AXError value). Numbers
+// read as doubles; a URL as its text (the Dock's items name their application by one); of an
+// array only its elements are kept.
 std::optional<AccessibilityValue> readAccessibilityValue(const AccessibilityObjects& objects,
                                                          AccessibilityObjects::Object object);
 // What a Copy call answers: its failure as it is, or else the value it returned, where nothing

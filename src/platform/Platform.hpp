@@ -24,6 +24,8 @@ class Pasteboard;
 class Thumbnails;
 class Hashing;
 class DateFormatting;
+class DisplayConfiguration;
+class SystemLog;
 struct InputServices;
 
 // Every port, handed to the registry and the tools at construction. The app fills it with the
@@ -55,6 +57,8 @@ struct Platform {
     Thumbnails& thumbnails;
     Hashing& hashing;
     DateFormatting& dateFormatting;
+    DisplayConfiguration& displayConfiguration;
+    SystemLog& systemLog;
 };
 
 }  // namespace quorvane

@@ -6,6 +6,7 @@
 
 #include "base/Point.hpp"
 #include "platform/ListPanel.hpp"
+#include "platform/Overlay.hpp"
 #include "platform/Panel.hpp"
 #include "platform/Screen.hpp"
 
@@ -27,6 +28,12 @@ public:
     // A new, hidden floating list that reports to `handlers`; nothing where there is no
     // window system.
     virtual std::unique_ptr<ListPanel> makeListPanel(ListPanel::Handlers handlers) = 0;
+    // A new, hidden shade for dimming; nothing where there is no window system.
+    virtual std::unique_ptr<Overlay> makeOverlay() { return nullptr; }
+    // Makes the Dock come to the display whose bottom edge holds the point (accessibility
+    // coordinates) at once. The system offers no interface for this, so this one call imitates
+    // the user's push, and answers false where it cannot.
+    virtual bool summonDock(Point /*bottomEdge*/) { return false; }
 };
 
 }  // namespace quorvane

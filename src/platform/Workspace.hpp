@@ -30,6 +30,14 @@ public:
     // Brings an application to the front (activateWithOptions: with no options). False when it
     // is gone or the system refused. Nothing to activate where there are no applications.
     virtual bool activate(int /*pid*/) { return false; }
+    // Asks an application to quit, as its own Quit command would (it may ask to save first);
+    // NSRunningApplication's terminate. False when it is gone or refused.
+    virtual bool terminateApplication(int /*pid*/) { return false; }
+    // Hides an application, as ⌘H does. False when it is gone or refused.
+    virtual bool hideApplication(int /*pid*/) { return false; }
+    // Opens the application with this bundle identifier without waiting for it to finish
+    // launching. False when no such application is installed or it cannot be opened.
+    virtual bool launchApplication(const std::string& /*bundleID*/) { return false; }
 
     // On the workspace's own notification centre, delivered on the main queue.
     [[nodiscard]] virtual Subscription observe(WorkspaceNotification notification,

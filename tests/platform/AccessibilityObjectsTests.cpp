@@ -41,6 +41,7 @@ struct FakeObjects final : AccessibilityObjects {
         return true;
     }
     std::string string(Object object) const override { return node(object).text; }
+    std::string urlString(Object object) const override { return node(object).text; }
     bool boolean(Object object) const override { return node(object).boolean; }
     double number(Object object) const override { return node(object).number; }
     std::vector<Object> elements(Object array) const override { return node(array).items; }
@@ -55,7 +56,8 @@ TEST(AccessibilityObjects, ValuesReadAsTheirKindAndListsKeepOnlyElements) {
     const Node frame{.type = Type::structValue, .structType = 3, .fields = {10, 20, 640, 480}};
     const Node title{.type = Type::string, .text = "Inbox"};
     const Node count{.type = Type::number, .number = 3};
-    const Node url{.type = Type::other};
+    const Node url{.type = Type::url, .text = "file:///Applications/Mail.app/"};
+    const Node date{.type = Type::other};
     const Node windows{.type = Type::array, .items = {&element, &title, &url, nullptr, &element}};
 
     EXPECT_EQ(readAccessibilityValue(objects, &element), AccessibilityValue(window));
@@ -64,7 +66,9 @@ TEST(AccessibilityObjects, ValuesReadAsTheirKindAndListsKeepOnlyElements) {
     EXPECT_EQ(readAccessibilityValue(objects, &count), AccessibilityValue(3.0));
     EXPECT_EQ(readAccessibilityValue(objects, &windows),
               AccessibilityValue(std::vector<Element>{window, window}));
-    EXPECT_EQ(readAccessibilityValue(objects, &url), std::nullopt);
+    EXPECT_EQ(readAccessibilityValue(objects, &url),
+              AccessibilityValue(std::string("file:///Applications/Mail.app/")));
+    EXPECT_EQ(readAccessibilityValue(objects, &date), std::nullopt);
     EXPECT_EQ(readAccessibilityValue(objects, nullptr), std::nullopt);
     const Node error{.type = Type::structValue, .structType = 5};
     EXPECT_EQ(readAccessibilityValue(objects, &error), std::nullopt) << "an AXError value";

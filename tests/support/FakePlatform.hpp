@@ -9,6 +9,7 @@
 #include "support/FakeAudioHardware.hpp"
 #include "support/FakeChildProcesses.hpp"
 #include "support/FakeDateFormatting.hpp"
+#include "support/FakeDisplayConfiguration.hpp"
 #include "support/FakeEventMonitors.hpp"
 #include "support/FakeEventSystem.hpp"
 #include "support/FakeHIDEventServices.hpp"
@@ -20,6 +21,7 @@
 #include "support/FakePreferenceDomains.hpp"
 #include "support/FakeProcessFacts.hpp"
 #include "support/FakeScreens.hpp"
+#include "support/FakeSystemLog.hpp"
 #include "support/FakeThumbnails.hpp"
 #include "support/FakeWindowList.hpp"
 #include "support/FakeWorkspace.hpp"
@@ -54,6 +56,8 @@ struct FakePlatform {
     FakeThumbnails thumbnails;
     PortableHashing hashing;
     FakeDateFormatting dateFormatting;
+    FakeDisplayConfiguration displayConfiguration;
+    FakeSystemLog systemLog;
 
     Platform platform() {
         return {preferences,       scheduler,      permissionProbe,  workspace,
@@ -61,7 +65,8 @@ struct FakePlatform {
                 eventMonitors,     screens,        menuBar,          audioHardware,
                 processFacts,      input,          keyboardLayout,   windowList,
                 preferenceDomains, childProcesses, hidEventServices, pasteboard,
-                thumbnails,        hashing,        dateFormatting};
+                thumbnails,        hashing,        dateFormatting,   displayConfiguration,
+                systemLog};
     }
 };
 

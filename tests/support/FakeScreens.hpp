@@ -71,6 +71,25 @@ struct FakeListPanel : ListPanel {
     }
 };
 
+// A shade that keeps what it was told, and leaves the list of live shades when destroyed.
+struct FakeOverlay : Overlay {
+    explicit FakeOverlay(std::vector<FakeOverlay*>& live) : list(live) { list.push_back(this); }
+    ~FakeOverlay() override { std::erase(list, this); }
+    void setFrame(const Rect& rect) override { frame = rect; }
+    void setAlpha(double value) override { alpha = value; }
+    void orderBelow(std::uint32_t windowNumber) override {
+        orders.push_back(windowNumber);
+        visible = true;
+    }
+    void orderOut() override { visible = false; }
+
+    std::vector<FakeOverlay*>& list;
+    Rect frame;
+    double alpha = 0;
+    bool visible = false;
+    std::vector<std::uint32_t> orders;
+};
+
 struct FakeScreens : Screens {
     std::vector<Screen> displays{{{0, 0, 1440, 900}, {0, 0, 1440, 875}}};
     std::optional<std::size_t> mainIndex = 0;
@@ -86,6 +105,16 @@ struct FakeScreens : Screens {
     }
     Point mouseLocation() override { return mouse; }
     void beep() override { ++beeps; }
+    std::vector<FakeOverlay*> overlays;
+    std::unique_ptr<Overlay> makeOverlay() override {
+        return std::make_unique<FakeOverlay>(overlays);
+    }
+    bool dockSummonable = true;
+    std::vector<Point> dockSummons;
+    bool summonDock(Point bottomEdge) override {
+        dockSummons.push_back(bottomEdge);
+        return dockSummonable;
+    }
     std::unique_ptr<Panel> makeFloatingPanel() override {
         auto panel = std::make_unique<FakePanel>();
         panels.push_back(panel.get());

@@ -38,6 +38,22 @@ struct FakeWorkspace : Workspace {
         return frontmostPID ? runningApplication(*frontmostPID) : std::nullopt;
     }
     int currentProcessID() override { return ownPID; }
+    // Asked to quit, hide or open: recorded, and the application stays as it is.
+    std::vector<int> terminated;
+    std::vector<int> hidden;
+    std::vector<std::string> launched;
+    bool terminateApplication(int pid) override {
+        terminated.push_back(pid);
+        return applications.contains(pid);
+    }
+    bool hideApplication(int pid) override {
+        hidden.push_back(pid);
+        return applications.contains(pid);
+    }
+    bool launchApplication(const std::string& bundleID) override {
+        launched.push_back(bundleID);
+        return true;
+    }
     bool activate(int pid) override {
         activated.push_back(pid);
         return applications.contains(pid);

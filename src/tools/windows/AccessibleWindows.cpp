@@ -112,6 +112,72 @@ std::optional<int> AccessibleWindows::pid(const Element& element) {
     return value;
 }
 
+std::int32_t AccessibleWindows::setFrame(const Element& window, const Rect& frame) {
+    std::int32_t status = setPosition(window, frame.origin);
+    if (status == Accessibility::kSuccess) {
+        status = setSize(window, frame.size);
+    }
+    if (status == Accessibility::kSuccess) {
+        const auto now = this->frame(window);
+        if (now && now->origin != frame.origin) {
+            status = setPosition(window, frame.origin);
+        }
+    }
+    return status;
+}
+
+std::optional<std::vector<Element>> AccessibleWindows::windowsIfKnown(int pid) {
+    AccessibilityValue value;
+    if (accessibility_.copyAttribute(accessibility_.application(pid), "AXWindows", value) !=
+        Accessibility::kSuccess) {
+        return std::nullopt;
+    }
+    const auto* list = std::get_if<std::vector<Element>>(&value);
+    return list ? std::optional(*list) : std::nullopt;
+}
+
+std::string AccessibleWindows::title(const Element& window) {
+    AccessibilityValue value;
+    if (!window ||
+        accessibility_.copyAttribute(window, "AXTitle", value) != Accessibility::kSuccess) {
+        return {};
+    }
+    const auto* text = std::get_if<std::string>(&value);
+    return text ? *text : std::string();
+}
+
+bool AccessibleWindows::isMinimized(const Element& window) {
+    AccessibilityValue value;
+    if (!window ||
+        accessibility_.copyAttribute(window, "AXMinimized", value) != Accessibility::kSuccess) {
+        return false;
+    }
+    const auto* flag = std::get_if<bool>(&value);
+    return flag && *flag;
+}
+
+namespace {
+
+std::optional<std::string> subrole(Accessibility& accessibility, const Element& window) {
+    AccessibilityValue value;
+    if (!window ||
+        accessibility.copyAttribute(window, "AXSubrole", value) != Accessibility::kSuccess) {
+        return std::nullopt;
+    }
+    const auto* text = std::get_if<std::string>(&value);
+    return text ? std::optional(*text) : std::nullopt;
+}
+
+}  // namespace
+
+bool AccessibleWindows::isStandard(const Element& window) {
+    return subrole(accessibility_, window) == "AXStandardWindow";
+}
+
+bool AccessibleWindows::isFloating(const Element& window) {
+    return subrole(accessibility_, window) == "AXFloatingWindow";
+}
+
 std::string AccessibleWindows::failure(const std::string& what, std::int32_t status) {
     return what + " (AXError " + std::to_string(status) + ")";
 }

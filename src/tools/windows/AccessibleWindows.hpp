@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "base/Rect.hpp"
 #include "platform/Accessibility.hpp"
@@ -28,6 +29,26 @@ public:
     std::int32_t setSize(const Element& window, Size size);
     std::int32_t raise(const Element& window);
     std::optional<int> pid(const Element& element);
+    // Position, then size, then the position again if the size moved it: an app may keep a
+    // window on its old display until it fits the new one.
+    std::int32_t setFrame(const Element& window, const Rect& frame);
+
+    // An application's windows ("AXWindows"), minimized ones included; nothing when it did
+    // not answer, and so an empty list then.
+    std::optional<std::vector<Element>> windowsIfKnown(int pid);
+    std::vector<Element> windows(int pid) {
+        return windowsIfKnown(pid).value_or(std::vector<Element>{});
+    }
+    std::string title(const Element& window);
+    bool isMinimized(const Element& window);
+    // A document window ("AXStandardWindow"), not a sheet, dialog, palette or pop-up.
+    bool isStandard(const Element& window);
+    // A palette or inspector ("AXFloatingWindow").
+    bool isFloating(const Element& window);
+    // An element an attribute names, such as a window's "AXZoomButton"; nullptr when none.
+    Element child(const Element& element, std::string_view attribute) {
+        return elementAttribute(element, attribute);
+    }
 
     // "Couldn't move the window (AXError -25204)": how a failed change reads on a settings page.
     static std::string failure(const std::string& what, std::int32_t status);

@@ -130,11 +130,8 @@ void WindowSnapTool::perform(SnapAction action) {
         platform_.screens.beep();
         return;
     }
-    std::vector<DisplayLayout::Display> displays;
-    for (const Screen& screen : platform_.screens.screens()) {
-        displays.push_back({screen.frame, screen.visibleFrame});
-    }
-    const auto plan = WindowSnapPlan::make(action, *frame, DisplayLayout(std::move(displays)));
+    const auto plan = WindowSnapPlan::make(
+        action, *frame, DisplayLayout::read(platform_.screens, platform_.displayConfiguration));
     switch (plan.outcome) {
         case WindowSnapPlan::Outcome::beep:
             platform_.screens.beep();

@@ -51,6 +51,7 @@ typedef struct __attribute__((objc_bridge(id))) __CFRunLoop* CFRunLoopRef;
 typedef struct __attribute__((objc_bridge(id))) __CFRunLoopSource* CFRunLoopSourceRef;
 typedef struct __attribute__((objc_bridge(id))) __CFMachPort* CFMachPortRef;
 typedef struct __attribute__((objc_bridge(id))) __CFBundle* CFBundleRef;
+typedef const struct __attribute__((objc_bridge(id))) __CFUUID* CFUUIDRef;
 typedef CFTypeRef CFPropertyListRef;
 typedef CFStringRef CFRunLoopMode;
 typedef UInt32 CFStringEncoding;
@@ -209,6 +210,12 @@ CFBundleRef CFBundleGetMainBundle(void);
 CFStringRef CFBundleGetIdentifier(CFBundleRef bundle);
 CFURLRef CFURLCreateWithFileSystemPath(CFAllocatorRef allocator, CFStringRef filePath,
                                        CFIndex pathStyle, Boolean isDirectory);
+// Looked up: CFURLGetTypeID, CFURLGetString (Get rule, the URL's string as it was made).
+CFTypeID CFURLGetTypeID(void);
+CFStringRef CFURLGetString(CFURLRef anURL);
+
+// CFUUID, looked up: CFUUIDCreateString (Create rule).
+CFStringRef CFUUIDCreateString(CFAllocatorRef alloc, CFUUIDRef uuid);
 
 #pragma clang arc_cf_code_audited end
 

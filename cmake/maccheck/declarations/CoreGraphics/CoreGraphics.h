@@ -228,6 +228,9 @@ bool CGRequestScreenCaptureAccess(void);
 
 CGDirectDisplayID CGMainDisplayID(void);
 CGRect CGDisplayBounds(CGDirectDisplayID display);
+// ColorSync's, reached through ApplicationServices on a Mac; looked up:
+// CGDisplayCreateUUIDFromDisplayID(uint32_t) -> CFUUIDRef, Create rule (macOS 10.13+).
+CFUUIDRef _Nullable CGDisplayCreateUUIDFromDisplayID(uint32_t displayID);
 
 void CGColorRelease(CGColorRef _Nullable color);
 void CGImageRelease(CGImageRef _Nullable image);

@@ -1,0 +1,87 @@
+#if !__has_feature(objc_arc)
+#error "Compile with -fobjc-arc"
+#endif
+
+#include "mac/MacDisplayConfiguration.hpp"
+
+#include <cassert>
+#include <memory>
+
+#include "mac/CFRef.hpp"
+#include "mac/CancellableHandler.hpp"
+#include "mac/MacFrameworks.h"
+#include "mac/MacStrings.hpp"
+
+// Notes, looked up in Apple's documentation for this file (check on a Mac first, none of it is
+// in the shared fact sheet):
+// - CGDirectDisplayID "typically remains constant until the machine is restarted"; Quartz
+//   derives it from vendor, model, serial number and the position in the I/O Kit registry. It
+//   is not stable across restarts, so it cannot key a saved arrangement.
+// - CGDisplayCreateUUIDFromDisplayID(uint32_t) -> CFUUIDRef (ColorSync, macOS 10.13+): the
+//   display's UUID, which is. Create rule. CFUUIDCreateString(alloc, uuid) -> CFStringRef,
+//   Create rule, "68753A44-4D6F-1226-9C60-0050E4C00067" form.
+// - NSScreen's deviceDescription holds the display ID under "NSScreenNumber" as an NSNumber.
+// - CGDisplayRegisterReconfigurationCallback calls back twice per display (before, with
+//   kCGDisplayBeginConfigurationFlag, and after), in the event-processing thread.
+//   NSApplicationDidChangeScreenParametersNotification is posted once per change, on the main
+//   actor, after AppKit has updated NSScreen, so handlers that read the screens at once see the
+//   new ones; that is why it is the one observed here.
+
+namespace quorvane {
+
+namespace {
+
+std::string displayIdentifier(NSScreen* screen) {
+    id value = screen.deviceDescription[@"NSScreenNumber"];
+    if (![value isKindOfClass:[NSNumber class]]) {
+        return {};
+    }
+    NSNumber* number = value;
+    const auto display = static_cast<CGDirectDisplayID>(number.unsignedIntValue);
+    const auto uuid = CFRef<CFUUIDRef>::adopt(CGDisplayCreateUUIDFromDisplayID(display));
+    if (!uuid) {
+        // A display ColorSync does not know: its session-long number is better than nothing.
+        return "display-" + std::to_string(display);
+    }
+    const auto text =
+        CFRef<CFStringRef>::adopt(CFUUIDCreateString(kCFAllocatorDefault, uuid.get()));
+    return text ? utf8String(text.get()) : "display-" + std::to_string(display);
+}
+
+}  // namespace
+
+std::vector<std::string> MacDisplayConfiguration::displayIDs() {
+    @autoreleasepool {
+        // The same order as MacScreens::screens(), which also lists [NSScreen screens].
+        std::vector<std::string> ids;
+        for (NSScreen* screen in [NSScreen screens]) {
+            ids.push_back(displayIdentifier(screen));
+        }
+        return ids;
+    }
+}
+
+Subscription MacDisplayConfiguration::observeReconfiguration(std::function<void()> handler) {
+    @autoreleasepool {
+        auto observer =
+            std::make_shared<CancellableHandler<std::function<void()>>>(std::move(handler));
+        id<NSObject> token = [[NSNotificationCenter defaultCenter]
+            addObserverForName:NSApplicationDidChangeScreenParametersNotification
+                        object:nil
+                         queue:[NSOperationQueue mainQueue]
+                    usingBlock:^(NSNotification* note) {
+                      (void)note;
+                      assert([NSThread isMainThread]);
+                      const auto running = observer;  // the handler may end the subscription
+                      if (!running->cancelled) {
+                          running->handler();
+                      }
+                    }];
+        return Subscription([observer, token] {
+            observer->cancelled = true;
+            [[NSNotificationCenter defaultCenter] removeObserver:token];
+        });
+    }
+}
+
+}  // namespace quorvane

@@ -1,0 +1,50 @@
+#if !__has_feature(objc_arc)
+#error "Compile with -fobjc-arc"
+#endif
+
+#include "mac/MacOverlay.hpp"
+
+// Notes, from Apple's NSWindow reference (check on a Mac first):
+// - orderWindow:relativeTo: takes the other window's windowNumber; windowNumber is the window
+//   server's number, the same one CGWindowListCopyWindowInfo reports as kCGWindowNumber, so
+//   another application's window can be named. ⚠ Ordering relative to another app's window is
+//   documented for window numbers in general, not confirmed for other processes' windows.
+// - ignoresMouseEvents = YES makes the window transparent to clicks.
+// - The shade stays at the normal level: the menu bar, the Dock and menus sit on higher levels
+//   and are never covered.
+
+namespace quorvane {
+
+MacOverlay::MacOverlay() {
+    window_ = [[NSWindow alloc] initWithContentRect:NSZeroRect
+                                          styleMask:NSWindowStyleMaskBorderless
+                                            backing:NSBackingStoreBuffered
+                                              defer:NO];
+    window_.opaque = NO;
+    window_.backgroundColor = [NSColor blackColor];
+    window_.hasShadow = NO;
+    window_.ignoresMouseEvents = YES;
+    window_.releasedWhenClosed = NO;
+    window_.level = NSNormalWindowLevel;
+    // On every Space, left in place by Mission Control, out of ⌘` cycling.
+    window_.collectionBehavior = NSWindowCollectionBehaviorCanJoinAllSpaces |
+                                 NSWindowCollectionBehaviorStationary |
+                                 NSWindowCollectionBehaviorIgnoresCycle;
+}
+
+MacOverlay::~MacOverlay() { [window_ orderOut:nil]; }
+
+void MacOverlay::setFrame(const Rect& frame) {
+    [window_ setFrame:NSMakeRect(frame.minX(), frame.minY(), frame.width(), frame.height())
+              display:YES];
+}
+
+void MacOverlay::setAlpha(double alpha) { window_.alphaValue = alpha; }
+
+void MacOverlay::orderBelow(std::uint32_t windowNumber) {
+    [window_ orderWindow:NSWindowBelow relativeTo:static_cast<NSInteger>(windowNumber)];
+}
+
+void MacOverlay::orderOut() { [window_ orderOut:nil]; }
+
+}  // namespace quorvane

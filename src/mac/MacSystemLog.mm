@@ -1,0 +1,20 @@
+#if !__has_feature(objc_arc)
+#error "Compile with -fobjc-arc"
+#endif
+
+#include "mac/MacSystemLog.hpp"
+
+#include "mac/MacFrameworks.h"
+
+// Notes, from Apple's documentation (check on a Mac first): os_log_create(subsystem, category)
+// returns an os_log_t; os_log_error(log, format, ...) logs at error level to the in-memory and
+// on-disk stores. Dynamic strings are private (redacted) unless the format says %{public}s.
+
+namespace quorvane {
+
+void MacSystemLog::error(const std::string& text) {
+    static os_log_t log = os_log_create("com.quorvane.app", "tools");
+    os_log_error(log, "%{public}s", text.c_str());
+}
+
+}  // namespace quorvane
