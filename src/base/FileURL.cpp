@@ -1,5 +1,7 @@
 #include "base/FileURL.hpp"
 
+#include "base/HexDigit.hpp"
+
 namespace quorvane::file_url {
 
 namespace {
@@ -7,19 +9,6 @@ namespace {
 bool unreserved(unsigned char c) {
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '-' ||
            c == '.' || c == '_' || c == '~' || c == '/';
-}
-
-int hexValue(char c) {
-    if (c >= '0' && c <= '9') {
-        return c - '0';
-    }
-    if (c >= 'a' && c <= 'f') {
-        return c - 'a' + 10;
-    }
-    if (c >= 'A' && c <= 'F') {
-        return c - 'A' + 10;
-    }
-    return -1;
 }
 
 }  // namespace
@@ -61,8 +50,8 @@ std::optional<std::string> toPath(std::string_view url) {
         if (i + 2 >= url.size()) {
             return std::nullopt;
         }
-        const int high = hexValue(url[i + 1]);
-        const int low = hexValue(url[i + 2]);
+        const int high = hexDigitValue(url[i + 1]);
+        const int low = hexDigitValue(url[i + 2]);
         if (high < 0 || low < 0) {
             return std::nullopt;
         }

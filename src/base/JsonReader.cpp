@@ -6,6 +6,7 @@
 #include <cstring>
 #include <vector>
 
+#include "base/HexDigit.hpp"
 #include "base/JsonWriter.hpp"
 #include "base/Utf8.hpp"
 
@@ -36,19 +37,6 @@ bool isDigit(char c) {
 
 bool isWhitespace(char c) {
     return c == ' ' || c == '\t' || c == '\n' || c == '\r';
-}
-
-int hexDigitValue(char c) {
-    if (isDigit(c)) {
-        return c - '0';
-    }
-    if (c >= 'a' && c <= 'f') {
-        return c - 'a' + 10;
-    }
-    if (c >= 'A' && c <= 'F') {
-        return c - 'A' + 10;
-    }
-    return -1;
 }
 
 }  // namespace

@@ -2,25 +2,14 @@
 
 #include <random>
 
+#include "base/HexDigit.hpp"
+
 namespace quorvane {
 namespace {
 
 // Where the text form has a hyphen, as offsets into the 36 characters.
 constexpr std::array<std::size_t, 4> kHyphens = {8, 13, 18, 23};
 constexpr std::size_t kTextLength = 36;
-
-int hexValue(char c) {
-    if (c >= '0' && c <= '9') {
-        return c - '0';
-    }
-    if (c >= 'a' && c <= 'f') {
-        return c - 'a' + 10;
-    }
-    if (c >= 'A' && c <= 'F') {
-        return c - 'A' + 10;
-    }
-    return -1;
-}
 
 bool isHyphenOffset(std::size_t offset) {
     for (const std::size_t hyphen : kHyphens) {
@@ -68,7 +57,7 @@ std::optional<Uuid> Uuid::parse(std::string_view text) {
             }
             continue;
         }
-        const int value = hexValue(text[i]);
+        const int value = hexDigitValue(text[i]);
         if (value < 0) {
             return std::nullopt;
         }
