@@ -39,6 +39,7 @@
 #include "portable/PortableKeyboardLayout.hpp"
 #include "portable/PortableMenuBar.hpp"
 #include "portable/PortablePermissionProbe.hpp"
+#include "portable/PortablePowerManagement.hpp"
 #include "portable/PortableProcessFacts.hpp"
 #include "portable/PortableScreens.hpp"
 #include "portable/PortableSystemLog.hpp"
@@ -105,6 +106,7 @@ struct Session {
     PortableDateFormatting dateFormatting;
     PortableDisplayConfiguration displayConfiguration;
     PortableSystemLog systemLog;
+    PortablePowerManagement power;
     std::unique_ptr<PermissionCenter> permissions;
     std::unique_ptr<ToolRegistry> registry;
 };
@@ -268,7 +270,8 @@ private:
                           session_.hashing,
                           session_.dateFormatting,
                           session_.displayConfiguration,
-                          session_.systemLog};
+                          session_.systemLog,
+                          session_.power};
         session_.platform.emplace(platform);
         session_.permissions = std::make_unique<PermissionCenter>(
             session_.probe, session_.scheduler, session_.workspace);

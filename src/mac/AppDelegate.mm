@@ -33,6 +33,7 @@
 #include "mac/MacPasteboard.hpp"
 #include "mac/MacDateFormatting.hpp"
 #include "mac/MacHashing.hpp"
+#include "mac/MacPowerManagement.hpp"
 #include "mac/MacThumbnails.hpp"
 #include "mac/MacDisplayConfiguration.hpp"
 #include "mac/MacSystemLog.hpp"
@@ -69,13 +70,14 @@ struct AppState {
     MacDateFormatting dateFormatting;
     MacDisplayConfiguration displayConfiguration;
     MacSystemLog systemLog;
+    MacPowerManagement power;
     Platform platform{preferences,       scheduler,      permissionProbe,  workspace,
                       notifications,     events,         hotKeys,          accessibility,
                       eventMonitors,     screens,        menuBar,          audioHardware,
                       processFacts,      input,          keyboardLayout,   windowList,
                       preferenceDomains, childProcesses, hidEventServices, pasteboard,
                       thumbnails,        hashing,        dateFormatting,   displayConfiguration,
-                      systemLog};
+                      systemLog,         power};
     MacAppWindows windows;
     MacAppInstance instance;
     MacLoginItem loginItem;

@@ -21,6 +21,7 @@
 #include <CoreFoundation/CoreFoundation.h>
 #include <CoreGraphics/CoreGraphics.h>
 #include <IOKit/IOKitLib.h>
+#include <IOKit/pwr_mgt/IOPMLib.h>
 // AppKit only names CALayer; its properties (views' corner radius and colours) are QuartzCore's.
 #import <QuartzCore/QuartzCore.h>
 // The umbrella leaves out the process-tap headers, which are Objective-C only.

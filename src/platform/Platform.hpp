@@ -26,6 +26,7 @@ class Hashing;
 class DateFormatting;
 class DisplayConfiguration;
 class SystemLog;
+class PowerManagement;
 struct InputServices;
 
 // Every port, handed to the registry and the tools at construction. The app fills it with the
@@ -59,6 +60,7 @@ struct Platform {
     DateFormatting& dateFormatting;
     DisplayConfiguration& displayConfiguration;
     SystemLog& systemLog;
+    PowerManagement& power;
 };
 
 }  // namespace quorvane

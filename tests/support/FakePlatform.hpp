@@ -18,6 +18,7 @@
 #include "support/FakeMenuBar.hpp"
 #include "support/FakePasteboard.hpp"
 #include "support/FakePermissionProbe.hpp"
+#include "support/FakePowerManagement.hpp"
 #include "support/FakePreferenceDomains.hpp"
 #include "support/FakeProcessFacts.hpp"
 #include "support/FakeScreens.hpp"
@@ -58,6 +59,7 @@ struct FakePlatform {
     FakeDateFormatting dateFormatting;
     FakeDisplayConfiguration displayConfiguration;
     FakeSystemLog systemLog;
+    FakePowerManagement power;
 
     Platform platform() {
         return {preferences,       scheduler,      permissionProbe,  workspace,
@@ -66,7 +68,7 @@ struct FakePlatform {
                 processFacts,      input,          keyboardLayout,   windowList,
                 preferenceDomains, childProcesses, hidEventServices, pasteboard,
                 thumbnails,        hashing,        dateFormatting,   displayConfiguration,
-                systemLog};
+                systemLog,         power};
     }
 };
 

@@ -1,7 +1,10 @@
 #include "tools/system/SystemTools.hpp"
 
 #include "tools/system/FitMoreMenuBarIconsTool.hpp"
+#include "tools/system/KeepAwakeTool.hpp"
+#include "tools/system/LockScreenTool.hpp"
 #include "tools/system/PreferenceFlipTool.hpp"
+#include "tools/system/PresentationModeTool.hpp"
 #include "tools/system/ScreenshotSettingsTool.hpp"
 
 namespace quorvane {
@@ -17,6 +20,9 @@ const ToolFactories& systemTools() {
         {"photos-auto-open", &PreferenceFlipTool::build},
         {"screenshot-settings", &buildTool<ScreenshotSettingsTool>},
         {"show-hidden-files", &PreferenceFlipTool::build},
+        {"keep-awake", &buildTool<KeepAwakeTool>},
+        {"lock-screen", &buildTool<LockScreenTool>},
+        {"presentation-mode", &buildTool<PresentationModeTool>},
     };
     return factories;
 }

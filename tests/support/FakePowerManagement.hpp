@@ -1,0 +1,44 @@
+#pragma once
+
+#include <map>
+#include <string>
+
+#include "platform/PowerManagement.hpp"
+
+namespace quorvane {
+
+// The assertions held now, by id, and the statuses to answer.
+struct FakePowerManagement : PowerManagement {
+    struct Held {
+        AssertionType type;
+        std::string name;
+    };
+    std::map<AssertionID, Held> held;
+    AssertionID nextID = 100;
+    int createStatus = 0;
+    int lockStatus = 0;
+    int locks = 0;
+    int releasesOfUnknown = 0;
+
+    int createAssertion(AssertionType type, const std::string& name, AssertionID& id) override {
+        if (createStatus != 0) {
+            return createStatus;
+        }
+        id = nextID++;
+        held.emplace(id, Held{type, name});
+        return 0;
+    }
+    int releaseAssertion(AssertionID id) override {
+        if (held.erase(id) == 0) {
+            ++releasesOfUnknown;
+            return 0xE00002C2;  // kIOReturnBadArgument
+        }
+        return 0;
+    }
+    int lockScreen() override {
+        ++locks;
+        return lockStatus;
+    }
+};
+
+}  // namespace quorvane
