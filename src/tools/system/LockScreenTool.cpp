@@ -1,6 +1,7 @@
 #include "tools/system/LockScreenTool.hpp"
 
 #include "app/PowerAssertion.hpp"
+#include "platform/ChildProcessFailure.hpp"
 #include "platform/ChildProcesses.hpp"
 #include "platform/PowerManagement.hpp"
 
@@ -76,10 +77,7 @@ void LockScreenTool::perform(Action action) {
             platform_.childProcesses.run(kPmset, {sleep ? "sleepnow" : "displaysleepnow"});
         if (!status.succeeded()) {
             const std::string what = sleep ? "Putting the Mac to sleep" : "Turning the display off";
-            lastError_ =
-                what + " failed: " +
-                (status.launched ? "pmset ended with status " + std::to_string(status.exitStatus)
-                                 : status.launchError);
+            lastError_ = what + " failed: " + childProcessFailure("pmset", status);
         }
     }
     publish();

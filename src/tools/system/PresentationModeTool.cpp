@@ -2,6 +2,7 @@
 
 #include "app/SystemPreference.hpp"
 #include "app/SystemPreferenceError.hpp"
+#include "platform/ChildProcessFailure.hpp"
 #include "platform/ChildProcesses.hpp"
 #include "platform/Preferences.hpp"
 #include "tools/system/PreferenceFlipTable.hpp"
@@ -108,9 +109,8 @@ void PresentationModeTool::runShortcut(const std::string& name) {
     }
     const auto status = platform_.childProcesses.run(kShortcutsPath, {"run", name});
     if (!status.succeeded()) {
-        fail("The Shortcut \"" + name + "\" did not run: " +
-             (status.launched ? "shortcuts ended with status " + std::to_string(status.exitStatus)
-                              : status.launchError));
+        fail("The Shortcut \"" + name +
+             "\" did not run: " + childProcessFailure("shortcuts", status));
     }
 }
 
