@@ -1,5 +1,6 @@
 #include "tools/system/SystemTools.hpp"
 
+#include "tools/system/FinderCutTool.hpp"
 #include "tools/system/FitMoreMenuBarIconsTool.hpp"
 #include "tools/system/PreferenceFlipTool.hpp"
 #include "tools/system/ScreenshotSettingsTool.hpp"
@@ -17,6 +18,7 @@ const ToolFactories& systemTools() {
         {"photos-auto-open", &PreferenceFlipTool::build},
         {"screenshot-settings", &buildTool<ScreenshotSettingsTool>},
         {"show-hidden-files", &PreferenceFlipTool::build},
+        {"finder-cut", &buildTool<FinderCutTool>},
     };
     return factories;
 }
