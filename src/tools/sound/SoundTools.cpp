@@ -6,6 +6,7 @@
 #include "tools/sound/MicLockTool.hpp"
 #include "tools/sound/MicMuteTool.hpp"
 #include "tools/sound/OutputLockTool.hpp"
+#include "tools/sound/StopMusicTool.hpp"
 
 namespace quorvane {
 
@@ -17,6 +18,7 @@ const ToolFactories& soundTools() {
         {"mic-lock", &buildTool<MicLockTool>},
         {"mic-mute", &buildTool<MicMuteTool>},
         {"output-lock", &buildTool<OutputLockTool>},
+        {"stop-music", &buildTool<StopMusicTool>},
     };
     return factories;
 }
