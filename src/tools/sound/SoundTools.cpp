@@ -7,6 +7,7 @@
 #include "tools/sound/MicMuteTool.hpp"
 #include "tools/sound/OutputLockTool.hpp"
 #include "tools/sound/StopMusicTool.hpp"
+#include "tools/sound/VolumeHUDTool.hpp"
 
 namespace quorvane {
 
@@ -19,6 +20,7 @@ const ToolFactories& soundTools() {
         {"mic-mute", &buildTool<MicMuteTool>},
         {"output-lock", &buildTool<OutputLockTool>},
         {"stop-music", &buildTool<StopMusicTool>},
+        {"volume-hud", &buildTool<VolumeHUDTool>},
     };
     return factories;
 }
