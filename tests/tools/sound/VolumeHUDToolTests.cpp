@@ -71,7 +71,7 @@ struct VolumeHUDToolTest : ::testing::Test {
                                             &muted);
         return {volume, muted != 0};
     }
-    // A key pressed and released; true when the events went on to the system.
+    // A key pressed and released; true when its key down went on to the system.
     bool press(std::int64_t keyType, std::uint64_t flags = 0) {
         bool passed = false;
         for (const bool down : {true, false}) {
@@ -80,7 +80,9 @@ struct VolumeHUDToolTest : ::testing::Test {
             event.eventFlags = flags;
             event.subtype = VolumeKeys::kAuxControlButtons;
             event.data1 = VolumeKeys::data1(keyType, down);
-            passed = fakes.events.deliver(*fakes.events.taps.at(0), event.eventType, event);
+            const bool went =
+                fakes.events.deliver(*fakes.events.taps.at(0), event.eventType, event);
+            passed = down ? went : passed;
         }
         return passed;
     }
