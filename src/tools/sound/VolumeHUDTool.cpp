@@ -66,7 +66,7 @@ bool VolumeHUDTool::press(const VolumeKeys::Press& key, bool fine) {
         lastError_.clear();
         publish();
     }
-    platform_.input.hud.show(VolumeKeys::card(next), true, kCardDuration);
+    platform_.input.hud.show(VolumeKeys::card(next), false, kCardDuration);
     return false;
 }
 
