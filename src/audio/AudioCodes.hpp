@@ -38,6 +38,10 @@ inline constexpr std::uint32_t kNominalSampleRate = fourCharCode("nsrt");
 inline constexpr std::uint32_t kStreamConfiguration = fourCharCode("slay");
 inline constexpr std::uint32_t kMute = fourCharCode("mute");
 inline constexpr std::uint32_t kVolumeScalar = fourCharCode("volm");
+// The one volume of a whole device, whatever its channels, as the menu bar's slider sets it
+// (the hardware service's virtual main volume, read and written through the object
+// properties). unconfirmed: check on a Mac first.
+inline constexpr std::uint32_t kVirtualMainVolume = fourCharCode("vmvc");
 // Process objects.
 inline constexpr std::uint32_t kProcessPID = fourCharCode("ppid");
 inline constexpr std::uint32_t kProcessBundleID = fourCharCode("pbid");

@@ -29,9 +29,13 @@ public:
     void setDoubleField(std::uint32_t field, double value) override;
     std::string unicodeString() const override;
     std::string charactersIgnoringModifiers() const override;
+    std::int16_t systemSubtype() const override;
+    std::int64_t systemData1() const override;
 
 private:
     MacEvent() = default;
+    // The AppKit view of the event, for what only AppKit reads; nil without an event.
+    NSEvent* appKitEvent() const;
 
     CGEventRef event_ = nullptr;
     CFRef<CGEventRef> owned_;

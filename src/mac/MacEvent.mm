@@ -85,14 +85,40 @@ std::string MacEvent::charactersIgnoringModifiers() const {
         return {};
     }
     @autoreleasepool {
-        NSEvent* event = appKitEvent_;
-        if (!event && event_) {
-            // +eventWithCGEvent: retains the CGEvent.
-            event = [NSEvent eventWithCGEvent:event_];
-        }
+        NSEvent* event = appKitEvent();
         // unconfirmed: check on a Mac first (charactersIgnoringModifiers is not in the fact
         // sheet; Apple's reference says it ignores every modifier but shift).
         return utf8String(event.charactersIgnoringModifiers);
+    }
+}
+
+NSEvent* MacEvent::appKitEvent() const {
+    if (appKitEvent_ || !event_) {
+        return appKitEvent_;
+    }
+    // +eventWithCGEvent: retains the CGEvent.
+    return [NSEvent eventWithCGEvent:event_];
+}
+
+std::int16_t MacEvent::systemSubtype() const {
+    // AppKit raises an exception when other kinds of event are asked for their subtype.
+    if (type() != EventType::systemDefined) {
+        return 0;
+    }
+    @autoreleasepool {
+        // unconfirmed: check on a Mac first (NSEvent's subtype of a tapped system-defined event
+        // is not in the fact sheet).
+        return static_cast<std::int16_t>(appKitEvent().subtype);
+    }
+}
+
+std::int64_t MacEvent::systemData1() const {
+    if (type() != EventType::systemDefined) {
+        return 0;
+    }
+    @autoreleasepool {
+        // unconfirmed: check on a Mac first (data1 is not in the fact sheet).
+        return static_cast<std::int64_t>(appKitEvent().data1);
     }
 }
 

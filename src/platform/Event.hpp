@@ -29,6 +29,10 @@ public:
     virtual std::string unicodeString() const = 0;
     // What the key types without modifiers ("s" for ⌥S), as UTF-8.
     virtual std::string charactersIgnoringModifiers() const = 0;
+    // Of a system-defined event (media keys, power button): its subtype and first data word;
+    // 0 for every other kind of event.
+    virtual std::int16_t systemSubtype() const = 0;
+    virtual std::int64_t systemData1() const = 0;
 };
 
 }  // namespace quorvane

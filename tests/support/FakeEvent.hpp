@@ -17,6 +17,8 @@ struct FakeEvent : Event {
     std::map<std::uint32_t, double> doubles;
     std::string typed;
     std::string unmodified;
+    std::int16_t subtype = 0;
+    std::int64_t data1 = 0;
 
     static FakeEvent keyDown(std::uint32_t keyCode, std::uint64_t flags,
                              std::string characters = {}) {
@@ -30,6 +32,8 @@ struct FakeEvent : Event {
     }
 
     EventType type() const override { return eventType; }
+    std::int16_t systemSubtype() const override { return subtype; }
+    std::int64_t systemData1() const override { return data1; }
     void setType(EventType type) override { eventType = type; }
     std::uint64_t flags() const override { return eventFlags; }
     void setFlags(std::uint64_t flags) override { eventFlags = flags; }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <set>
 
+#include "input/FocusedText.hpp"
 #include "input/InputServices.hpp"
 #include "input/KeyPressSynthesizer.hpp"
 #include "platform/Accessibility.hpp"
@@ -33,21 +34,6 @@ constexpr double kCaretDrop = 6;
 
 std::optional<KeyCombo> defaultShortcut() {
     return KeyCombo{kVKeyCode, modifierFlag::command | modifierFlag::shift, "V"};
-}
-
-bool isEditable(Accessibility& accessibility, const Element& element) {
-    AccessibilityValue value;
-    if (accessibility.copyAttribute(element, "AXRole", value) == Accessibility::kSuccess) {
-        if (const auto* role = std::get_if<std::string>(&value)) {
-            if (*role == "AXTextField" || *role == "AXTextArea" || *role == "AXComboBox") {
-                return true;
-            }
-        }
-    }
-    AccessibilityValue ancestor;
-    return accessibility.copyAttribute(element, "AXEditableAncestor", ancestor) ==
-               Accessibility::kSuccess &&
-           std::holds_alternative<Element>(ancestor) && std::get<Element>(ancestor);
 }
 
 }  // namespace
@@ -165,7 +151,7 @@ void ClipboardHistoryTool::openAtClick(Point topLeft) {
     const bool editable =
         ax.elementAtPosition(ax.systemWide(), static_cast<float>(topLeft.x),
                              static_cast<float>(topLeft.y), element) == Accessibility::kSuccess &&
-        element && isEditable(ax, element);
+        element && isEditableElement(ax, element);
     const Point anchor = toBottomLeft(topLeft);
     if (!editable) {
         openPanel(anchor, false);

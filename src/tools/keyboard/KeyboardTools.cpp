@@ -1,6 +1,8 @@
 #include "tools/keyboard/KeyboardTools.hpp"
 
+#include "tools/keyboard/CleanKeyboardTool.hpp"
 #include "tools/keyboard/ClipboardHistoryTool.hpp"
+#include "tools/keyboard/HoldToQuitTool.hpp"
 #include "tools/keyboard/HomeEndTool.hpp"
 #include "tools/keyboard/KeyRemapTool.hpp"
 #include "tools/keyboard/PastePlainTextTool.hpp"
@@ -15,6 +17,8 @@ const ToolFactories& keyboardTools() {
         {"paste-plain-text", &buildTool<PastePlainTextTool>},
         {"clipboard-history", &buildTool<ClipboardHistoryTool>},
         {"text-snippets", &buildTool<TextSnippetsTool>},
+        {"hold-to-quit", &buildTool<HoldToQuitTool>},
+        {"clean-keyboard", &buildTool<CleanKeyboardTool>},
     };
     return factories;
 }

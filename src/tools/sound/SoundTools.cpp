@@ -6,6 +6,8 @@
 #include "tools/sound/MicLockTool.hpp"
 #include "tools/sound/MicMuteTool.hpp"
 #include "tools/sound/OutputLockTool.hpp"
+#include "tools/sound/StopMusicTool.hpp"
+#include "tools/sound/VolumeHUDTool.hpp"
 
 namespace quorvane {
 
@@ -17,6 +19,8 @@ const ToolFactories& soundTools() {
         {"mic-lock", &buildTool<MicLockTool>},
         {"mic-mute", &buildTool<MicMuteTool>},
         {"output-lock", &buildTool<OutputLockTool>},
+        {"stop-music", &buildTool<StopMusicTool>},
+        {"volume-hud", &buildTool<VolumeHUDTool>},
     };
     return factories;
 }

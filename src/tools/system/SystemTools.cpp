@@ -1,5 +1,6 @@
 #include "tools/system/SystemTools.hpp"
 
+#include "tools/system/FinderCutTool.hpp"
 #include "tools/system/FitMoreMenuBarIconsTool.hpp"
 #include "tools/system/KeepAwakeTool.hpp"
 #include "tools/system/LockScreenTool.hpp"
@@ -23,6 +24,7 @@ const ToolFactories& systemTools() {
         {"keep-awake", &buildTool<KeepAwakeTool>},
         {"lock-screen", &buildTool<LockScreenTool>},
         {"presentation-mode", &buildTool<PresentationModeTool>},
+        {"finder-cut", &buildTool<FinderCutTool>},
     };
     return factories;
 }
