@@ -87,6 +87,16 @@ struct FakeAccessibility : Accessibility {
         }
         return element;
     }
+    // The applications asked to come to the front through "AXFrontmost", by process ID.
+    std::vector<int> broughtToFront() const {
+        std::vector<int> pids;
+        for (const auto& [pid, element] : applicationElements) {
+            if (attributes.contains({element.get(), "AXFrontmost"})) {
+                pids.push_back(pid);
+            }
+        }
+        return pids;
+    }
     std::int32_t copyAttribute(const Element& element, std::string_view attribute,
                                AccessibilityValue& value) override {
         const auto found = attributes.find({element.get(), std::string(attribute)});

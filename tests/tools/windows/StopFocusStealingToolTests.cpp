@@ -8,17 +8,6 @@
 namespace quorvane {
 namespace {
 
-// The applications asked to come to the front through "AXFrontmost", by process ID.
-std::vector<int> broughtToFront(FakeAccessibility& accessibility) {
-    std::vector<int> pids;
-    for (const auto& [pid, element] : accessibility.applicationElements) {
-        if (accessibility.attributes.contains({element.get(), "AXFrontmost"})) {
-            pids.push_back(pid);
-        }
-    }
-    return pids;
-}
-
 const ToolDescriptor& descriptor() {
     return catalogDescriptor("stop-focus-stealing");
 }
@@ -60,7 +49,7 @@ TEST_F(StopFocusStealingToolTest, AnAppThatComesForwardOnItsOwnIsPutBack) {
     tool->setShowNotice(true);
     activate(200);
     EXPECT_EQ(tool->stoppedThisSession(), 1);
-    EXPECT_EQ(broughtToFront(fakes.accessibility), std::vector<int>{100})
+    EXPECT_EQ(fakes.accessibility.broughtToFront(), std::vector<int>{100})
         << "the editor is brought back";
     ASSERT_FALSE(fakes.accessibility.actions.empty());
     EXPECT_EQ(fakes.accessibility.actions.back().first, editorWindow);
@@ -98,7 +87,7 @@ TEST_F(StopFocusStealingToolTest, SystemPromptsAreNeverPushedBack) {
     activate(300);
     fakes.scheduler.advance(Seconds(1));
     EXPECT_EQ(current(), 300) << "the password prompt stays in front";
-    EXPECT_TRUE(broughtToFront(fakes.accessibility).empty());
+    EXPECT_TRUE(fakes.accessibility.broughtToFront().empty());
     EXPECT_EQ(tool->stoppedThisSession(), 0);
 
     // Focus in a system prompt: the app after it may come forward.
@@ -108,9 +97,9 @@ TEST_F(StopFocusStealingToolTest, SystemPromptsAreNeverPushedBack) {
     // A system process that takes the front with nothing to show gives it back a moment later.
     fakes.windowList.owners = {400};
     activate(500);
-    EXPECT_TRUE(broughtToFront(fakes.accessibility).empty());
+    EXPECT_TRUE(fakes.accessibility.broughtToFront().empty());
     fakes.scheduler.advance(StopFocusStealingTool::kSystemWindowWait);
-    EXPECT_EQ(broughtToFront(fakes.accessibility), std::vector<int>{400});
+    EXPECT_EQ(fakes.accessibility.broughtToFront(), std::vector<int>{400});
     EXPECT_EQ(tool->stoppedThisSession(), 0) << "the system is no culprit";
     EXPECT_TRUE(tool->history().empty());
 }

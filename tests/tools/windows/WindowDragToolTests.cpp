@@ -11,17 +11,6 @@
 namespace quorvane {
 namespace {
 
-// The applications asked to come to the front through "AXFrontmost", by process ID.
-std::vector<int> broughtToFront(FakeAccessibility& accessibility) {
-    std::vector<int> pids;
-    for (const auto& [pid, element] : accessibility.applicationElements) {
-        if (accessibility.attributes.contains({element.get(), "AXFrontmost"})) {
-            pids.push_back(pid);
-        }
-    }
-    return pids;
-}
-
 const ToolDescriptor& descriptor() {
     return catalogDescriptor("window-drag");
 }
@@ -71,7 +60,7 @@ TEST_F(WindowDragToolTest, ADragMovesTheWindowUnderTheMouseAndBringsItForward) {
     ASSERT_EQ(fakes.accessibility.actions.size(), 1u);
     EXPECT_EQ(fakes.accessibility.actions[0].first, window);
     EXPECT_EQ(fakes.accessibility.actions[0].second, "AXRaise");
-    EXPECT_EQ(broughtToFront(fakes.accessibility), std::vector<int>{42});
+    EXPECT_EQ(fakes.accessibility.broughtToFront(), std::vector<int>{42});
 
     // Every 2 ms for 20 ms: at most one move per 1/120 s goes to the window.
     const std::size_t beforeMoves = fakes.accessibility.writes.size();  // the frontmost request
