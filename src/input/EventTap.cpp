@@ -20,6 +20,11 @@ std::uint64_t EventTap::mask(std::span<const EventType> types,
     return bits;
 }
 
+std::string EventTap::refusedError(std::string_view action) {
+    return "Quorvane couldn't " + std::string(action) +
+           ". Allow it under Accessibility in System Settings.";
+}
+
 std::unique_ptr<EventTap> EventTap::create(EventSystem& system, std::span<const EventType> types,
                                            std::span<const std::uint32_t> rawTypes,
                                            Handler handler) {

@@ -4,6 +4,8 @@
 #include <functional>
 #include <memory>
 #include <span>
+#include <string>
+#include <string_view>
 
 #include "platform/EventSystem.hpp"
 
@@ -31,6 +33,10 @@ public:
                                             Handler handler) {
         return create(system, std::span(types.begin(), types.size()), {}, std::move(handler));
     }
+
+    // The one wording every tool shows in lastError when the system refused its tap; `action`
+    // says what the tool could not do, as in "watch the keyboard".
+    static std::string refusedError(std::string_view action);
 
     EventTap(const EventTap&) = delete;
     EventTap& operator=(const EventTap&) = delete;

@@ -45,7 +45,7 @@ void CleanKeyboardTool::lock() {
     tap_ = EventTap::create(platform_.events, kTypes, {},
                             [this](EventType type, Event& event) { return handle(type, event); });
     if (!tap_) {
-        lastError_ = kNoTap;
+        lastError_ = EventTap::refusedError("lock the keyboard");
         publish();
         return;
     }

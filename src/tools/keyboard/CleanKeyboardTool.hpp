@@ -24,8 +24,6 @@ public:
     static constexpr std::int64_t kMaximumMinutes = 10;
     static constexpr const char* kLockedImage = "keyboard.badge.ellipsis";
     static constexpr const char* kLockedTitle = "Keyboard Locked — click or press Esc 5 times";
-    static constexpr const char* kNoTap =
-        "Quorvane couldn't lock the keyboard. Allow it under Accessibility in System Settings.";
 
     CleanKeyboardTool(const ToolDescriptor& descriptor, const Platform& platform);
     ~CleanKeyboardTool() override;

@@ -23,7 +23,7 @@ void HoldToQuitTool::start() {
                             {EventType::keyDown, EventType::keyUp, EventType::flagsChanged},
                             [this](EventType type, Event& event) { return handle(type, event); });
     if (!tap_) {
-        setLastError(kNoTap);
+        setLastError(EventTap::refusedError("watch the keyboard"));
         return;
     }
     setLastError({});

@@ -21,8 +21,6 @@ public:
     static constexpr double kMinimumHold = 0.3;
     static constexpr double kMaximumHold = 3.0;
     static constexpr Seconds kTickInterval{1.0 / 30};
-    static constexpr const char* kNoTap =
-        "Quorvane couldn't watch the keyboard. Allow it under Accessibility in System Settings.";
 
     HoldToQuitTool(const ToolDescriptor& descriptor, const Platform& platform);
 

@@ -14,7 +14,7 @@ void VolumeHUDTool::start() {
     stop();
     tap_ = EventTap::create(platform_.events, {EventType::systemDefined},
                             [this](EventType, Event& event) { return handle(event); });
-    lastError_ = tap_ ? "" : kNoTap;
+    lastError_ = tap_ ? std::string() : EventTap::refusedError("watch the volume keys");
     publish();
 }
 

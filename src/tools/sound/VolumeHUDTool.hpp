@@ -18,9 +18,6 @@ namespace quorvane {
 class VolumeHUDTool : public Tool {
 public:
     static constexpr Seconds kCardDuration{1.5};
-    static constexpr const char* kNoTap =
-        "Quorvane couldn't watch the volume keys. Allow it under Accessibility in System "
-        "Settings.";
 
     VolumeHUDTool(const ToolDescriptor& descriptor, const Platform& platform);
 

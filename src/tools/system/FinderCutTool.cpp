@@ -24,7 +24,7 @@ void FinderCutTool::start() {
         });
     tap_ = EventTap::create(platform_.events, {EventType::keyDown, EventType::keyUp},
                             [this](EventType type, Event& event) { return handle(type, event); });
-    lastError_ = tap_ ? "" : kNoTap;
+    lastError_ = tap_ ? std::string() : EventTap::refusedError("watch the keyboard");
     publish();
 }
 

@@ -23,8 +23,6 @@ public:
     static constexpr const char* kShowNoticeKey = "finderCut.showNotice";
     // Finder writes the clipboard a moment after it sees ⌘C.
     static constexpr Seconds kLandDelay{0.5};
-    static constexpr const char* kNoTap =
-        "Quorvane couldn't watch the keyboard. Allow it under Accessibility in System Settings.";
 
     FinderCutTool(const ToolDescriptor& descriptor, const Platform& platform);
 

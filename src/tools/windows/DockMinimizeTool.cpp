@@ -15,7 +15,7 @@ void DockMinimizeTool::start() {
     stop();
     tap_ = EventTap::create(platform_.events, {EventType::leftMouseDown, EventType::leftMouseUp},
                             [this](EventType type, Event& event) { return handle(type, event); });
-    setLastError(tap_ ? std::string() : "Couldn't watch the mouse (is Accessibility allowed?)");
+    setLastError(tap_ ? std::string() : EventTap::refusedError("watch the mouse"));
     publish();
 }
 

@@ -34,7 +34,7 @@ void WindowSwitcherTool::start() {
     tap_ = EventTap::create(platform_.events, {EventType::keyDown, EventType::flagsChanged},
                             [this](EventType type, Event& event) { return handle(type, event); });
     if (!tap_) {
-        setLastError("Couldn't watch the keyboard (is Accessibility allowed?)");
+        setLastError(EventTap::refusedError("watch the keyboard"));
         return;
     }
     shortcut_.activate();

@@ -83,7 +83,7 @@ TEST_F(CleanKeyboardToolTest, TheLockNeverOutlivesItsLimitOrTheToolsStop) {
     tool->start();
     fakes.events.refuseTaps = true;
     tool->lock();
-    EXPECT_EQ(tool->lastError(), CleanKeyboardTool::kNoTap);
+    EXPECT_EQ(tool->lastError(), EventTap::refusedError("lock the keyboard"));
 }
 
 }  // namespace

@@ -94,7 +94,7 @@ TEST_F(HoldToQuitToolTest, StoppingMidHoldLeavesNoTapNoCardAndNoQuit) {
 
     fakes.events.refuseTaps = true;
     tool->start();
-    EXPECT_EQ(tool->lastError(), HoldToQuitTool::kNoTap);
+    EXPECT_EQ(tool->lastError(), EventTap::refusedError("watch the keyboard"));
 }
 
 }  // namespace
