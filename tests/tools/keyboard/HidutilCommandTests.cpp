@@ -24,15 +24,18 @@ Mapping mapping(Key from, Key to, Keyboards keyboards = Keyboards::all) {
     return {Uuid(), from, to, keyboards};
 }
 
-// Both calls the tool makes, one argument a line, so a change shows as a readable diff.
-std::string render(const std::vector<Mapping>& mappings, const SystemModifierMappings& system) {
-    std::string text;
+// Both calls the tool makes, one a line under the case's name, so a change shows as a
+// readable diff.
+std::string render(const std::string& name, const std::vector<Mapping>& mappings,
+                   const SystemModifierMappings& system) {
+    std::string text = "# " + name + "\n";
     for (const bool builtIn : {true, false}) {
-        text += builtIn ? "# built-in keyboards\n" : "# plugged-in keyboards\n";
-        for (const auto& argument :
-             HidutilCommand::arguments(builtIn, HidutilCommand::table(mappings, system, builtIn))) {
-            text += argument + "\n";
+        const auto arguments =
+            HidutilCommand::arguments(builtIn, HidutilCommand::table(mappings, system, builtIn));
+        for (std::size_t i = 0; i < arguments.size(); ++i) {
+            text += (i == 0 ? "" : " ") + arguments[i];
         }
+        text += "\n";
     }
     return text;
 }
@@ -52,30 +55,34 @@ void expectGolden(const std::string& name, const std::string& text) {
 }
 
 TEST(HidutilGolden, EachPresetAlone) {
-    const char* names[] = {"preset-caps-lock-escape", "preset-caps-lock-control",
-                           "preset-windows-swap", "preset-swap-section-grave"};
+    const char* names[] = {"caps-lock-escape", "caps-lock-control", "windows-swap",
+                           "swap-section-grave"};
     ASSERT_EQ(Preset::all().size(), 4u);
+    std::string text;
     for (std::size_t i = 0; i < 4; ++i) {
-        expectGolden(names[i], render(Preset::all()[i].makeMappings(), {}));
+        text += render(names[i], Preset::all()[i].makeMappings(), {});
     }
+    expectGolden("presets", text);
 }
 
 TEST(HidutilGolden, ListsThatNeedCare) {
-    expectGolden("swap-pairs", render({mapping(Key::home, Key::end), mapping(Key::end, Key::home),
-                                       mapping(Key::leftCommand, Key::leftControl),
-                                       mapping(Key::leftControl, Key::leftCommand)},
-                                      {}));
+    std::string text = render(
+        "swap-pairs",
+        {mapping(Key::home, Key::end), mapping(Key::end, Key::home),
+         mapping(Key::leftCommand, Key::leftControl), mapping(Key::leftControl, Key::leftCommand)},
+        {});
     // The system decides between two entries for one key; both are handed over as listed.
-    expectGolden("duplicate-source", render({mapping(Key::capsLock, Key::escape),
-                                             mapping(Key::capsLock, Key::leftControl)},
-                                            {}));
-    expectGolden("self-map", render({mapping(Key::tab, Key::tab)}, {}));
-    expectGolden("per-keyboard",
-                 render({mapping(Key::capsLock, Key::escape, Keyboards::all),
-                         mapping(Key::rightOption, Key::rightControl, Keyboards::external),
-                         mapping(Key::f13, Key::printScreen, Keyboards::builtIn)},
-                        systemPairs()));
-    expectGolden("empty-with-system-pairs", render({}, systemPairs()));
+    text +=
+        render("duplicate-source",
+               {mapping(Key::capsLock, Key::escape), mapping(Key::capsLock, Key::leftControl)}, {});
+    text += render("self-map", {mapping(Key::tab, Key::tab)}, {});
+    text += render("per-keyboard",
+                   {mapping(Key::capsLock, Key::escape, Keyboards::all),
+                    mapping(Key::rightOption, Key::rightControl, Keyboards::external),
+                    mapping(Key::f13, Key::printScreen, Keyboards::builtIn)},
+                   systemPairs());
+    text += render("empty-with-system-pairs", {}, systemPairs());
+    expectGolden("lists", text);
 }
 
 TEST(HidutilCommand, CapsLockToEscapeIsPassedAsFullUsageValues) {

