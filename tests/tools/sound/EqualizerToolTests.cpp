@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cmath>
 
 #include "app/ToolCatalog.hpp"
@@ -225,9 +226,13 @@ TEST_F(EqualizerToolTest, ThePagesAndTheTileShowAndChangeTheSettings) {
     tool->resetToFlat();
     EXPECT_FALSE(control->isOn());
     const auto tools = ToolCatalog::makeTools(fakes.platform());
-    EXPECT_EQ(tools[43]->requiredPermissions(),
+    const auto built = std::find_if(tools.begin(), tools.end(), [](const auto& each) {
+        return each->identity().id == "equalizer";
+    });
+    ASSERT_NE(built, tools.end());
+    EXPECT_EQ((*built)->requiredPermissions(),
               (std::vector<Permission>{Permission::systemAudioRecording}));
-    EXPECT_TRUE(tools[43]->isAvailable() && tools[43]->control());
+    EXPECT_TRUE((*built)->isAvailable() && (*built)->control());
 }
 
 }  // namespace
