@@ -6,8 +6,8 @@
 set -euo pipefail
 
 debian_packages=(cmake make g++ clang libc++-dev libc++abi-dev googletest libgtest-dev
-                 libgmock-dev libbenchmark-dev ccache "$@")
-brew_formulae=(cmake googletest google-benchmark ccache)
+                 libgmock-dev libbenchmark-dev ccache libarchive-dev "$@")
+brew_formulae=(cmake googletest google-benchmark ccache libarchive)
 
 fail() {
     echo "install-dependencies: $*" >&2

@@ -4,7 +4,9 @@
 #include <string>
 
 #include "platform/ChildProcesses.hpp"
+#include "platform/FileSystem.hpp"
 #include "platform/PreferenceDomains.hpp"
+#include "platform/ProcessFacts.hpp"
 
 namespace quorvane {
 
@@ -28,6 +30,10 @@ public:
     virtual std::unique_ptr<PreferenceDomains> openDefaultPreferenceDomains() { return nullptr; }
     // What runs programs for the tools with the default store; nullptr runs nothing.
     virtual std::unique_ptr<ChildProcesses> makeChildProcesses() { return nullptr; }
+    // The file system and the facts about installed apps for the file commands; nullptr uses
+    // the portable ones.
+    virtual std::unique_ptr<FileSystem> makeFileSystem() { return nullptr; }
+    virtual std::unique_ptr<ProcessFacts> makeProcessFacts() { return nullptr; }
 };
 
 }  // namespace quorvane

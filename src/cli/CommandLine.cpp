@@ -9,6 +9,7 @@
 #include "app/ToolCatalog.hpp"
 #include "app/ToolRegistry.hpp"
 #include "base/Json.hpp"
+#include "cli/ArchiveCommand.hpp"
 #include "cli/ClipboardCommand.hpp"
 #include "cli/CommandHost.hpp"
 #include "cli/DormantTool.hpp"
@@ -17,8 +18,12 @@
 #include "cli/LayoutsCommand.hpp"
 #include "cli/SettingsTextRenderer.hpp"
 #include "cli/SnippetsCommand.hpp"
+#include "cli/SpaceCommand.hpp"
+#include "cli/UninstallScanCommand.hpp"
 #include "input/InputServices.hpp"
+#include "platform/Archives.hpp"
 #include "platform/ChildProcesses.hpp"
+#include "platform/FileSystem.hpp"
 #include "platform/Platform.hpp"
 #include "platform/PreferenceDomains.hpp"
 #include "platform/Preferences.hpp"
@@ -33,6 +38,7 @@
 #include "portable/PortableDisplayConfiguration.hpp"
 #include "portable/PortableEventMonitors.hpp"
 #include "portable/PortableEventSystem.hpp"
+#include "portable/PortableFinderExtensionChannel.hpp"
 #include "portable/PortableHIDEventServices.hpp"
 #include "portable/PortableHashing.hpp"
 #include "portable/PortableHotKeySystem.hpp"
@@ -46,7 +52,9 @@
 #include "portable/PortableThumbnails.hpp"
 #include "portable/PortableWindowList.hpp"
 #include "portable/PortableWorkspace.hpp"
+#include "portable/PosixFileSystem.hpp"
 #include "portable/SteadyScheduler.hpp"
+#include "portable/SystemArchives.hpp"
 #include "tools/keyboard/ClipboardStore.hpp"
 
 #ifndef QUORVANE_VERSION
@@ -107,6 +115,9 @@ struct Session {
     PortableDisplayConfiguration displayConfiguration;
     PortableSystemLog systemLog;
     PortablePowerManagement power;
+    std::unique_ptr<FileSystem> fileSystem;
+    std::unique_ptr<Archives> archives = makeSystemArchives();
+    PortableFinderExtensionChannel finderExtension;
     std::unique_ptr<PermissionCenter> permissions;
     std::unique_ptr<ToolRegistry> registry;
 };
@@ -165,6 +176,10 @@ public:
             if (!ClipboardCommand::run(operands, ClipboardStore::defaultFolder(), out_, error)) {
                 throw CommandError(error);
             }
+            return 0;
+        }
+        if (command == "space" || command == "uninstall-scan" || command == "archive") {
+            runFileCommand(command, operands);
             return 0;
         }
         checkShape(command, operands);
@@ -238,6 +253,36 @@ private:
         }
     }
 
+    std::unique_ptr<FileSystem> makeFileSystem() {
+        auto fileSystem = host_.makeFileSystem();
+        if (!fileSystem) {
+            fileSystem = std::make_unique<PosixFileSystem>();
+        }
+        return fileSystem;
+    }
+
+    // The file commands read the file system only, so a damaged preferences file does not stop
+    // them.
+    void runFileCommand(const std::string& command, const std::vector<std::string>& operands) {
+        const auto fileSystem = makeFileSystem();
+        std::unique_ptr<ProcessFacts> facts = host_.makeProcessFacts();
+        if (!facts) {
+            facts = std::make_unique<PortableProcessFacts>();
+        }
+        std::string error;
+        bool done = false;
+        if (command == "space") {
+            done = SpaceCommand::run(operands, *fileSystem, out_, error);
+        } else if (command == "uninstall-scan") {
+            done = UninstallScanCommand::run(operands, *fileSystem, *facts, out_, error);
+        } else {
+            done = ArchiveCommand::run(operands, *session_.archives, out_, error);
+        }
+        if (!done) {
+            throw CommandError(error);
+        }
+    }
+
     void openSession(bool usePrefsFile, const std::string& prefsPath) {
         std::string error;
         session_.preferences = usePrefsFile ? FilePreferences::open(prefsPath, error)
@@ -246,6 +291,7 @@ private:
             throw CommandError(error);
         }
         openForeignDomains(usePrefsFile);
+        session_.fileSystem = makeFileSystem();
         Platform platform{*session_.preferences,
                           session_.scheduler,
                           session_.probe,
@@ -271,7 +317,10 @@ private:
                           session_.dateFormatting,
                           session_.displayConfiguration,
                           session_.systemLog,
-                          session_.power};
+                          session_.power,
+                          *session_.fileSystem,
+                          *session_.archives,
+                          session_.finderExtension};
         session_.platform.emplace(platform);
         session_.permissions = std::make_unique<PermissionCenter>(
             session_.probe, session_.scheduler, session_.workspace);
@@ -464,7 +513,8 @@ std::string CommandLine::usage() {
            "  controls remove ID         remove a tool's tile\n"
            "  settings ID                a tool's settings page, as text\n" +
            SnippetsCommand::usage() + EqCommand::usage() + KeysCommand::usage() +
-           ClipboardCommand::usage() + LayoutsCommand::usage() +
+           ClipboardCommand::usage() + LayoutsCommand::usage() + SpaceCommand::usage() +
+           UninstallScanCommand::usage() + ArchiveCommand::usage() +
            "\n"
            "Options:\n"
            "  --prefs FILE               use this preferences file instead of Quorvane's own\n"

@@ -37,6 +37,11 @@
 #include "mac/MacThumbnails.hpp"
 #include "mac/MacDisplayConfiguration.hpp"
 #include "mac/MacSystemLog.hpp"
+#include "mac/MacFileSystem.hpp"
+#include "mac/MacFinderExtensionChannel.hpp"
+#include "portable/SystemArchives.hpp"
+#include "app/ToolRegistry.hpp"
+#include "tools/system/ArchivesTool.hpp"
 
 namespace quorvane {
 
@@ -71,13 +76,18 @@ struct AppState {
     MacDisplayConfiguration displayConfiguration;
     MacSystemLog systemLog;
     MacPowerManagement power;
+    MacFileSystem fileSystem;
+    // The system's libarchive, through the same code as everywhere else.
+    std::unique_ptr<Archives> archives = makeSystemArchives();
+    MacFinderExtensionChannel finderExtension;
     Platform platform{preferences,       scheduler,      permissionProbe,  workspace,
                       notifications,     events,         hotKeys,          accessibility,
                       eventMonitors,     screens,        menuBar,          audioHardware,
                       processFacts,      input,          keyboardLayout,   windowList,
                       preferenceDomains, childProcesses, hidEventServices, pasteboard,
                       thumbnails,        hashing,        dateFormatting,   displayConfiguration,
-                      systemLog,         power};
+                      systemLog,         power,          fileSystem,       *archives,
+                      finderExtension};
     MacAppWindows windows;
     MacAppInstance instance;
     MacLoginItem loginItem;
@@ -156,6 +166,24 @@ struct AppState {
         [main addItem:item];
     }
     NSApp.mainMenu = main;
+}
+
+// Archives the app declares as documents, opened from Finder: the archives tool extracts each
+// beside itself, and says why not on its page when it is off or one is refused.
+// unconfirmed: check on a Mac first (-application:openURLs: is written from Apple's reference).
+- (void)application:(NSApplication*)application openURLs:(NSArray<NSURL*>*)urls {
+    (void)application;
+    auto* registry = _state ? _state->lifecycle.registry() : nullptr;
+    auto* tool =
+        registry ? dynamic_cast<quorvane::ArchivesTool*>(registry->tool("archives")) : nullptr;
+    if (!tool) {
+        return;
+    }
+    for (NSURL* url in urls) {
+        if (url.isFileURL) {
+            tool->open(quorvane::utf8String(url.path));
+        }
+    }
 }
 
 - (void)showSettings:(id)sender {

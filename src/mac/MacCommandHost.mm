@@ -7,6 +7,8 @@
 #include "mac/MacPreferenceDomains.hpp"
 #include "mac/MacPreferences.hpp"
 #include "portable/SpawnedChildProcesses.hpp"
+#include "mac/MacFileSystem.hpp"
+#include "mac/MacProcessFacts.hpp"
 
 namespace quorvane {
 
@@ -34,6 +36,14 @@ public:
 
     std::unique_ptr<ChildProcesses> makeChildProcesses() override {
         return std::make_unique<SpawnedChildProcesses>();
+    }
+
+    std::unique_ptr<FileSystem> makeFileSystem() override {
+        return std::make_unique<MacFileSystem>();
+    }
+
+    std::unique_ptr<ProcessFacts> makeProcessFacts() override {
+        return std::make_unique<MacProcessFacts>();
     }
 };
 

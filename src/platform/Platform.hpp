@@ -28,6 +28,9 @@ class DisplayConfiguration;
 class SystemLog;
 class PowerManagement;
 struct InputServices;
+class FileSystem;
+class Archives;
+class FinderExtensionChannel;
 
 // Every port, handed to the registry and the tools at construction. The app fills it with the
 // macOS implementations, the command line with the portable ones, tests with fakes.
@@ -61,6 +64,11 @@ struct Platform {
     DisplayConfiguration& displayConfiguration;
     SystemLog& systemLog;
     PowerManagement& power;
+    // The file tools: listing, the Trash and property-list files; archives; the Finder
+    // extension's messages.
+    FileSystem& fileSystem;
+    Archives& archives;
+    FinderExtensionChannel& finderExtension;
 };
 
 }  // namespace quorvane

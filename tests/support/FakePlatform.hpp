@@ -5,6 +5,7 @@
 #include "portable/InProcessNotificationBus.hpp"
 #include "portable/MemoryPreferences.hpp"
 #include "portable/PortableHashing.hpp"
+#include "portable/SystemArchives.hpp"
 #include "support/FakeAccessibility.hpp"
 #include "support/FakeAudioHardware.hpp"
 #include "support/FakeChildProcesses.hpp"
@@ -12,6 +13,8 @@
 #include "support/FakeDisplayConfiguration.hpp"
 #include "support/FakeEventMonitors.hpp"
 #include "support/FakeEventSystem.hpp"
+#include "support/FakeFileSystem.hpp"
+#include "support/FakeFinderExtensionChannel.hpp"
 #include "support/FakeHIDEventServices.hpp"
 #include "support/FakeHotKeySystem.hpp"
 #include "support/FakeKeyboardLayout.hpp"
@@ -60,6 +63,10 @@ struct FakePlatform {
     FakeDisplayConfiguration displayConfiguration;
     FakeSystemLog systemLog;
     FakePowerManagement power;
+    FakeFileSystem fileSystem;
+    // The real archive library where the build has it: archives are made in the tests.
+    std::unique_ptr<Archives> archives = makeSystemArchives();
+    FakeFinderExtensionChannel finderExtension;
 
     Platform platform() {
         return {preferences,       scheduler,      permissionProbe,  workspace,
@@ -68,7 +75,8 @@ struct FakePlatform {
                 processFacts,      input,          keyboardLayout,   windowList,
                 preferenceDomains, childProcesses, hidEventServices, pasteboard,
                 thumbnails,        hashing,        dateFormatting,   displayConfiguration,
-                systemLog,         power};
+                systemLog,         power,          fileSystem,       *archives,
+                finderExtension};
     }
 };
 

@@ -349,5 +349,13 @@ APPKIT_EXPORT NSPasteboardReadingOptionKey const NSPasteboardURLReadingFileURLsO
 @property(nullable, readonly, copy) NSArray<NSPasteboardItem*>* pasteboardItems;
 @end
 
+// The Trash (developer.apple.com/documentation/foundation/filemanager/trashitem(at:
+// resultingitemurl:), macOS 10.8).
+@interface NSFileManager (QVTrashAdditions)
+- (BOOL)trashItemAtURL:(NSURL*)url
+      resultingItemURL:(NSURL* _Nullable __autoreleasing* _Nullable)outResultingURL
+                 error:(NSError* _Nullable __autoreleasing* _Nullable)error;
+@end
+
 NS_ASSUME_NONNULL_END
 #endif

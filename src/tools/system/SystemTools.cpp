@@ -1,12 +1,17 @@
 #include "tools/system/SystemTools.hpp"
 
+#include "tools/system/AppUninstallerTool.hpp"
+#include "tools/system/ArchivesTool.hpp"
 #include "tools/system/FinderCutTool.hpp"
+#include "tools/system/FinderNewFileTool.hpp"
 #include "tools/system/FitMoreMenuBarIconsTool.hpp"
+#include "tools/system/FreeUpSpaceTool.hpp"
 #include "tools/system/KeepAwakeTool.hpp"
 #include "tools/system/LockScreenTool.hpp"
 #include "tools/system/PreferenceFlipTool.hpp"
 #include "tools/system/PresentationModeTool.hpp"
 #include "tools/system/ScreenshotSettingsTool.hpp"
+#include "tools/system/StartupItemsTool.hpp"
 
 namespace quorvane {
 
@@ -25,6 +30,11 @@ const ToolFactories& systemTools() {
         {"lock-screen", &buildTool<LockScreenTool>},
         {"presentation-mode", &buildTool<PresentationModeTool>},
         {"finder-cut", &buildTool<FinderCutTool>},
+        {"finder-new-file", &buildTool<FinderNewFileTool>},
+        {"archives", &buildTool<ArchivesTool>},
+        {"app-uninstaller", &buildTool<AppUninstallerTool>},
+        {"free-up-space", &buildTool<FreeUpSpaceTool>},
+        {"startup-items", &buildTool<StartupItemsTool>},
     };
     return factories;
 }

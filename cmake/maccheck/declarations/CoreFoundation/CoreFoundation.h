@@ -217,6 +217,24 @@ CFStringRef CFURLGetString(CFURLRef anURL);
 // CFUUID, looked up: CFUUIDCreateString (Create rule).
 CFStringRef CFUUIDCreateString(CFAllocatorRef alloc, CFUUIDRef uuid);
 
+// Property-list data, looked up: CFPropertyListCreateWithData (Create rule; the error, when
+// asked for, is Create rule too), CFPropertyListMutabilityOptions, CFPropertyListFormat,
+// CFErrorCopyDescription.
+typedef QV_CF_ENUM(CFOptionFlags, CFPropertyListMutabilityOptions){
+    kCFPropertyListImmutable = 0,
+    kCFPropertyListMutableContainers = 1 << 0,
+    kCFPropertyListMutableContainersAndLeaves = 1 << 1,
+};
+typedef QV_CF_ENUM(CFIndex, CFPropertyListFormat){
+    kCFPropertyListOpenStepFormat = 1,
+    kCFPropertyListXMLFormat_v1_0 = 100,
+    kCFPropertyListBinaryFormat_v1_0 = 200,
+};
+CFPropertyListRef CFPropertyListCreateWithData(CFAllocatorRef allocator, CFDataRef data,
+                                               CFOptionFlags options,
+                                               CFPropertyListFormat* format, CFErrorRef* error);
+CFStringRef CFErrorCopyDescription(CFErrorRef err);
+
 #pragma clang arc_cf_code_audited end
 
 #ifdef __cplusplus

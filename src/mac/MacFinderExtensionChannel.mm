@@ -1,0 +1,67 @@
+#include "mac/MacFinderExtensionChannel.hpp"
+
+#include <cassert>
+#include <memory>
+
+#include "mac/CancellableHandler.hpp"
+#include "mac/MacFrameworks.h"
+#include "mac/MacStrings.hpp"
+
+using FinderMessageHandler =
+    quorvane::CancellableHandler<quorvane::FinderExtensionChannel::Handler>;
+
+// The distributed centre's immediate delivery is only offered to selector observers.
+@interface QuorvaneFinderRequestRelay : NSObject
+- (instancetype)initWithHandler:(std::shared_ptr<FinderMessageHandler>)handler;
+- (void)deliver:(NSNotification*)notification;
+@end
+
+@implementation QuorvaneFinderRequestRelay {
+    std::shared_ptr<FinderMessageHandler> _handler;
+}
+
+- (instancetype)initWithHandler:(std::shared_ptr<FinderMessageHandler>)handler {
+    if ((self = [super init])) {
+        _handler = std::move(handler);
+    }
+    return self;
+}
+
+- (void)deliver:(NSNotification*)notification {
+    assert([NSThread isMainThread]);
+    id object = notification.object;
+    if (![object isKindOfClass:[NSString class]]) {
+        return;
+    }
+    const auto running = _handler;
+    if (!running->cancelled) {
+        running->handler(quorvane::utf8String(static_cast<NSString*>(object)));
+    }
+}
+
+@end
+
+namespace quorvane {
+
+Subscription MacFinderExtensionChannel::observe(Handler handler) {
+    @autoreleasepool {
+        auto observer = std::make_shared<FinderMessageHandler>(std::move(handler));
+        QuorvaneFinderRequestRelay* relay =
+            [[QuorvaneFinderRequestRelay alloc] initWithHandler:observer];
+        // unconfirmed: check on a Mac first (-addObserver:selector:name:object:
+        // suspensionBehavior: is written from Apple's reference). Quorvane is an accessory app,
+        // rarely active; without immediate delivery a menu choice would wait until it is.
+        [[NSDistributedNotificationCenter defaultCenter]
+                   addObserver:relay
+                      selector:@selector(deliver:)
+                          name:makeNSString(kNotificationName)
+                        object:nil
+            suspensionBehavior:NSNotificationSuspensionBehaviorDeliverImmediately];
+        return Subscription([observer, relay] {
+            observer->cancelled = true;
+            [[NSDistributedNotificationCenter defaultCenter] removeObserver:relay];
+        });
+    }
+}
+
+}  // namespace quorvane
