@@ -27,6 +27,9 @@
 #include "portable/InProcessNotificationBus.hpp"
 #include "portable/MemoryPasteboard.hpp"
 #include "portable/NoChildProcesses.hpp"
+#include "portable/NoColorSampler.hpp"
+#include "portable/NoScreenCapture.hpp"
+#include "portable/NoTextRecognition.hpp"
 #include "portable/PortableAccessibility.hpp"
 #include "portable/PortableAudioHardware.hpp"
 #include "portable/PortableDateFormatting.hpp"
@@ -107,6 +110,9 @@ struct Session {
     PortableDisplayConfiguration displayConfiguration;
     PortableSystemLog systemLog;
     PortablePowerManagement power;
+    NoScreenCapture screenCapture;
+    NoTextRecognition textRecognition;
+    NoColorSampler colorSampler;
     std::unique_ptr<PermissionCenter> permissions;
     std::unique_ptr<ToolRegistry> registry;
 };
@@ -271,7 +277,10 @@ private:
                           session_.dateFormatting,
                           session_.displayConfiguration,
                           session_.systemLog,
-                          session_.power};
+                          session_.power,
+                          session_.screenCapture,
+                          session_.textRecognition,
+                          session_.colorSampler};
         session_.platform.emplace(platform);
         session_.permissions = std::make_unique<PermissionCenter>(
             session_.probe, session_.scheduler, session_.workspace);

@@ -37,6 +37,9 @@
 #include "mac/MacThumbnails.hpp"
 #include "mac/MacDisplayConfiguration.hpp"
 #include "mac/MacSystemLog.hpp"
+#include "mac/MacScreenCapture.hpp"
+#include "mac/MacTextRecognition.hpp"
+#include "mac/MacColorSampler.hpp"
 
 namespace quorvane {
 
@@ -71,13 +74,17 @@ struct AppState {
     MacDisplayConfiguration displayConfiguration;
     MacSystemLog systemLog;
     MacPowerManagement power;
+    MacScreenCapture screenCapture;
+    MacTextRecognition textRecognition;
+    MacColorSampler colorSampler;
     Platform platform{preferences,       scheduler,      permissionProbe,  workspace,
                       notifications,     events,         hotKeys,          accessibility,
                       eventMonitors,     screens,        menuBar,          audioHardware,
                       processFacts,      input,          keyboardLayout,   windowList,
                       preferenceDomains, childProcesses, hidEventServices, pasteboard,
                       thumbnails,        hashing,        dateFormatting,   displayConfiguration,
-                      systemLog,         power};
+                      systemLog,         power,          screenCapture,    textRecognition,
+                      colorSampler};
     MacAppWindows windows;
     MacAppInstance instance;
     MacLoginItem loginItem;

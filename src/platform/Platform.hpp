@@ -28,6 +28,9 @@ class DisplayConfiguration;
 class SystemLog;
 class PowerManagement;
 struct InputServices;
+class ScreenCapture;
+class TextRecognition;
+class ColorSampler;
 
 // Every port, handed to the registry and the tools at construction. The app fills it with the
 // macOS implementations, the command line with the portable ones, tests with fakes.
@@ -61,6 +64,9 @@ struct Platform {
     DisplayConfiguration& displayConfiguration;
     SystemLog& systemLog;
     PowerManagement& power;
+    ScreenCapture& screenCapture;
+    TextRecognition& textRecognition;
+    ColorSampler& colorSampler;
 };
 
 }  // namespace quorvane

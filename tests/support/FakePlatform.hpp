@@ -8,6 +8,7 @@
 #include "support/FakeAccessibility.hpp"
 #include "support/FakeAudioHardware.hpp"
 #include "support/FakeChildProcesses.hpp"
+#include "support/FakeColorSampler.hpp"
 #include "support/FakeDateFormatting.hpp"
 #include "support/FakeDisplayConfiguration.hpp"
 #include "support/FakeEventMonitors.hpp"
@@ -21,8 +22,10 @@
 #include "support/FakePowerManagement.hpp"
 #include "support/FakePreferenceDomains.hpp"
 #include "support/FakeProcessFacts.hpp"
+#include "support/FakeScreenCapture.hpp"
 #include "support/FakeScreens.hpp"
 #include "support/FakeSystemLog.hpp"
+#include "support/FakeTextRecognition.hpp"
 #include "support/FakeThumbnails.hpp"
 #include "support/FakeWindowList.hpp"
 #include "support/FakeWorkspace.hpp"
@@ -60,6 +63,9 @@ struct FakePlatform {
     FakeDisplayConfiguration displayConfiguration;
     FakeSystemLog systemLog;
     FakePowerManagement power;
+    FakeScreenCapture screenCapture;
+    FakeTextRecognition textRecognition;
+    FakeColorSampler colorSampler;
 
     Platform platform() {
         return {preferences,       scheduler,      permissionProbe,  workspace,
@@ -68,7 +74,8 @@ struct FakePlatform {
                 processFacts,      input,          keyboardLayout,   windowList,
                 preferenceDomains, childProcesses, hidEventServices, pasteboard,
                 thumbnails,        hashing,        dateFormatting,   displayConfiguration,
-                systemLog,         power};
+                systemLog,         power,          screenCapture,    textRecognition,
+                colorSampler};
     }
 };
 

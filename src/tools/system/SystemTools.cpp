@@ -1,12 +1,16 @@
 #include "tools/system/SystemTools.hpp"
 
+#include "tools/system/ColorPickerTool.hpp"
 #include "tools/system/FinderCutTool.hpp"
 #include "tools/system/FitMoreMenuBarIconsTool.hpp"
 #include "tools/system/KeepAwakeTool.hpp"
 #include "tools/system/LockScreenTool.hpp"
 #include "tools/system/PreferenceFlipTool.hpp"
 #include "tools/system/PresentationModeTool.hpp"
+#include "tools/system/ScreenRecorderTool.hpp"
+#include "tools/system/ScreenshotScreenTool.hpp"
 #include "tools/system/ScreenshotSettingsTool.hpp"
+#include "tools/system/TextFromScreenTool.hpp"
 
 namespace quorvane {
 
@@ -25,6 +29,10 @@ const ToolFactories& systemTools() {
         {"lock-screen", &buildTool<LockScreenTool>},
         {"presentation-mode", &buildTool<PresentationModeTool>},
         {"finder-cut", &buildTool<FinderCutTool>},
+        {"screen-recorder", &buildTool<ScreenRecorderTool>},
+        {"screenshot-screen", &buildTool<ScreenshotScreenTool>},
+        {"text-from-screen", &buildTool<TextFromScreenTool>},
+        {"color-picker", &buildTool<ColorPickerTool>},
     };
     return factories;
 }
