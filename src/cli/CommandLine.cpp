@@ -32,6 +32,9 @@
 #include "portable/InProcessNotificationBus.hpp"
 #include "portable/MemoryPasteboard.hpp"
 #include "portable/NoChildProcesses.hpp"
+#include "portable/NoColorSampler.hpp"
+#include "portable/NoScreenCapture.hpp"
+#include "portable/NoTextRecognition.hpp"
 #include "portable/PortableAccessibility.hpp"
 #include "portable/PortableAudioHardware.hpp"
 #include "portable/PortableDateFormatting.hpp"
@@ -118,6 +121,9 @@ struct Session {
     std::unique_ptr<FileSystem> fileSystem;
     std::unique_ptr<Archives> archives = makeSystemArchives();
     PortableFinderExtensionChannel finderExtension;
+    NoScreenCapture screenCapture;
+    NoTextRecognition textRecognition;
+    NoColorSampler colorSampler;
     std::unique_ptr<PermissionCenter> permissions;
     std::unique_ptr<ToolRegistry> registry;
 };
@@ -320,7 +326,10 @@ private:
                           session_.power,
                           *session_.fileSystem,
                           *session_.archives,
-                          session_.finderExtension};
+                          session_.finderExtension,
+                          session_.screenCapture,
+                          session_.textRecognition,
+                          session_.colorSampler};
         session_.platform.emplace(platform);
         session_.permissions = std::make_unique<PermissionCenter>(
             session_.probe, session_.scheduler, session_.workspace);

@@ -42,6 +42,9 @@
 #include "portable/SystemArchives.hpp"
 #include "app/ToolRegistry.hpp"
 #include "tools/system/ArchivesTool.hpp"
+#include "mac/MacScreenCapture.hpp"
+#include "mac/MacTextRecognition.hpp"
+#include "mac/MacColorSampler.hpp"
 
 namespace quorvane {
 
@@ -80,6 +83,9 @@ struct AppState {
     // The system's libarchive, through the same code as everywhere else.
     std::unique_ptr<Archives> archives = makeSystemArchives();
     MacFinderExtensionChannel finderExtension;
+    MacScreenCapture screenCapture;
+    MacTextRecognition textRecognition;
+    MacColorSampler colorSampler;
     Platform platform{preferences,       scheduler,      permissionProbe,  workspace,
                       notifications,     events,         hotKeys,          accessibility,
                       eventMonitors,     screens,        menuBar,          audioHardware,
@@ -87,7 +93,7 @@ struct AppState {
                       preferenceDomains, childProcesses, hidEventServices, pasteboard,
                       thumbnails,        hashing,        dateFormatting,   displayConfiguration,
                       systemLog,         power,          fileSystem,       *archives,
-                      finderExtension};
+                      finderExtension,   screenCapture,  textRecognition,  colorSampler};
     MacAppWindows windows;
     MacAppInstance instance;
     MacLoginItem loginItem;

@@ -34,4 +34,10 @@
 
 // unconfirmed: check on a Mac first (the umbrella name; only SMAppService.h itself was read).
 #import <ServiceManagement/ServiceManagement.h>
+// AppKit's umbrella brings the colour sampler and ImageIO's its destinations on a Mac; they are
+// named here for the check, whose stand-in headers lack them.
+#import <AppKit/NSColorSampler.h>
+#include <ImageIO/CGImageDestination.h>
+#import <ScreenCaptureKit/ScreenCaptureKit.h>
+#import <Vision/Vision.h>
 // clang-format on

@@ -31,6 +31,9 @@ struct InputServices;
 class FileSystem;
 class Archives;
 class FinderExtensionChannel;
+class ScreenCapture;
+class TextRecognition;
+class ColorSampler;
 
 // Every port, handed to the registry and the tools at construction. The app fills it with the
 // macOS implementations, the command line with the portable ones, tests with fakes.
@@ -69,6 +72,9 @@ struct Platform {
     FileSystem& fileSystem;
     Archives& archives;
     FinderExtensionChannel& finderExtension;
+    ScreenCapture& screenCapture;
+    TextRecognition& textRecognition;
+    ColorSampler& colorSampler;
 };
 
 }  // namespace quorvane

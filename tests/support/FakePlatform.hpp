@@ -9,6 +9,7 @@
 #include "support/FakeAccessibility.hpp"
 #include "support/FakeAudioHardware.hpp"
 #include "support/FakeChildProcesses.hpp"
+#include "support/FakeColorSampler.hpp"
 #include "support/FakeDateFormatting.hpp"
 #include "support/FakeDisplayConfiguration.hpp"
 #include "support/FakeEventMonitors.hpp"
@@ -24,8 +25,10 @@
 #include "support/FakePowerManagement.hpp"
 #include "support/FakePreferenceDomains.hpp"
 #include "support/FakeProcessFacts.hpp"
+#include "support/FakeScreenCapture.hpp"
 #include "support/FakeScreens.hpp"
 #include "support/FakeSystemLog.hpp"
+#include "support/FakeTextRecognition.hpp"
 #include "support/FakeThumbnails.hpp"
 #include "support/FakeWindowList.hpp"
 #include "support/FakeWorkspace.hpp"
@@ -67,6 +70,9 @@ struct FakePlatform {
     // The real archive library where the build has it: archives are made in the tests.
     std::unique_ptr<Archives> archives = makeSystemArchives();
     FakeFinderExtensionChannel finderExtension;
+    FakeScreenCapture screenCapture;
+    FakeTextRecognition textRecognition;
+    FakeColorSampler colorSampler;
 
     Platform platform() {
         return {preferences,       scheduler,      permissionProbe,  workspace,
@@ -76,7 +82,7 @@ struct FakePlatform {
                 preferenceDomains, childProcesses, hidEventServices, pasteboard,
                 thumbnails,        hashing,        dateFormatting,   displayConfiguration,
                 systemLog,         power,          fileSystem,       *archives,
-                finderExtension};
+                finderExtension,   screenCapture,  textRecognition,  colorSampler};
     }
 };
 

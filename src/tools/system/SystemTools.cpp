@@ -2,6 +2,7 @@
 
 #include "tools/system/AppUninstallerTool.hpp"
 #include "tools/system/ArchivesTool.hpp"
+#include "tools/system/ColorPickerTool.hpp"
 #include "tools/system/FinderCutTool.hpp"
 #include "tools/system/FinderNewFileTool.hpp"
 #include "tools/system/FitMoreMenuBarIconsTool.hpp"
@@ -10,8 +11,11 @@
 #include "tools/system/LockScreenTool.hpp"
 #include "tools/system/PreferenceFlipTool.hpp"
 #include "tools/system/PresentationModeTool.hpp"
+#include "tools/system/ScreenRecorderTool.hpp"
+#include "tools/system/ScreenshotScreenTool.hpp"
 #include "tools/system/ScreenshotSettingsTool.hpp"
 #include "tools/system/StartupItemsTool.hpp"
+#include "tools/system/TextFromScreenTool.hpp"
 
 namespace quorvane {
 
@@ -35,6 +39,10 @@ const ToolFactories& systemTools() {
         {"app-uninstaller", &buildTool<AppUninstallerTool>},
         {"free-up-space", &buildTool<FreeUpSpaceTool>},
         {"startup-items", &buildTool<StartupItemsTool>},
+        {"screen-recorder", &buildTool<ScreenRecorderTool>},
+        {"screenshot-screen", &buildTool<ScreenshotScreenTool>},
+        {"text-from-screen", &buildTool<TextFromScreenTool>},
+        {"color-picker", &buildTool<ColorPickerTool>},
     };
     return factories;
 }

@@ -38,35 +38,40 @@ std::optional<int> DockItems::dockPID() {
     return std::nullopt;
 }
 
-std::vector<DockItems::Item> DockItems::items() {
-    std::vector<Item> result;
+Element DockItems::list() {
     const auto pid = dockPID();
     if (!pid) {
-        return result;
+        return {};
     }
     const auto children =
         read<std::vector<Element>>(accessibility_, accessibility_.application(*pid), "AXChildren");
-    if (!children) {
-        return result;
+    for (const Element& child : children.value_or(std::vector<Element>{})) {
+        if (read<std::string>(accessibility_, child, "AXRole") == "AXList") {
+            return child;  // the Dock has one list
+        }
     }
-    for (const Element& child : *children) {
-        if (read<std::string>(accessibility_, child, "AXRole") != "AXList") {
-            continue;
+    return {};
+}
+
+std::optional<DockItems::Item> DockItems::item(const Element& icon) {
+    const auto position = read<Point>(accessibility_, icon, "AXPosition");
+    const auto size = read<Size>(accessibility_, icon, "AXSize");
+    if (!position || !size) {
+        return std::nullopt;
+    }
+    return Item{read<std::string>(accessibility_, icon, "AXTitle").value_or(""),
+                read<std::string>(accessibility_, icon, "AXURL").value_or(""),
+                Rect(*position, *size),
+                read<std::string>(accessibility_, icon, "AXSubrole") == kApplicationItem};
+}
+
+std::vector<DockItems::Item> DockItems::items() {
+    std::vector<Item> result;
+    for (const Element& icon : read<std::vector<Element>>(accessibility_, list(), "AXChildren")
+                                   .value_or(std::vector<Element>{})) {
+        if (auto found = item(icon)) {
+            result.push_back(std::move(*found));
         }
-        for (const Element& icon : read<std::vector<Element>>(accessibility_, child, "AXChildren")
-                                       .value_or(std::vector<Element>{})) {
-            const auto position = read<Point>(accessibility_, icon, "AXPosition");
-            const auto size = read<Size>(accessibility_, icon, "AXSize");
-            if (!position || !size) {
-                continue;
-            }
-            result.push_back(
-                {read<std::string>(accessibility_, icon, "AXTitle").value_or(""),
-                 read<std::string>(accessibility_, icon, "AXURL").value_or(""),
-                 Rect(*position, *size),
-                 read<std::string>(accessibility_, icon, "AXSubrole") == kApplicationItem});
-        }
-        break;  // the Dock has one list
     }
     return result;
 }

@@ -32,6 +32,10 @@ public:
 
     std::optional<int> dockPID();
     std::vector<Item> items();
+    // The Dock's list of icons; a null element when the Dock is not running.
+    Element list();
+    // One icon of that list; nothing when it has no frame.
+    std::optional<Item> item(const Element& icon);
 
     // The item under a point, if any.
     static const Item* itemAt(Point point, const std::vector<Item>& items);

@@ -4,6 +4,7 @@
 #include "tools/windows/DimBackgroundTool.hpp"
 #include "tools/windows/DockInstantSwitchTool.hpp"
 #include "tools/windows/DockMinimizeTool.hpp"
+#include "tools/windows/DockPreviewsTool.hpp"
 #include "tools/windows/GreenButtonMaximizeTool.hpp"
 #include "tools/windows/PinWindowTool.hpp"
 #include "tools/windows/QuitOnLastWindowTool.hpp"
@@ -34,6 +35,7 @@ const ToolFactories& windowsTools() {
         {"window-screen-memory", &buildTool<WindowScreenMemoryTool>},
         {"window-snap", &buildTool<WindowSnapTool>},
         {"window-switcher", &buildTool<WindowSwitcherTool>},
+        {"dock-previews", &buildTool<DockPreviewsTool>},
     };
     return factories;
 }

@@ -1,0 +1,480 @@
+#include "mac/MacScreenCapture.hpp"
+
+#include <memory>
+
+#include "mac/CFRef.hpp"
+#include "mac/CancellableHandler.hpp"
+#include "mac/MacFrameworks.h"
+#include "mac/MacStrings.hpp"
+
+// Written from Apple's ScreenCaptureKit reference; none of it is in the fact sheet, so every
+// call below is unconfirmed: check on a Mac first. In particular:
+// - SCDisplay.frame and SCWindow.frame are taken to be in the global display space with its
+//   origin at the top left of the main display, like CGDisplayBounds and accessibility frames.
+// - SCStreamConfiguration.sourceRect is taken to be in the display's own points, top-left
+//   origin.
+// - Completion handlers run on an arbitrary queue, so every answer is passed to the main queue.
+// - The stream is taken to hold its delegates and outputs weakly, so the recording session
+//   keeps itself alive until it has reported.
+
+namespace {
+
+using quorvane::CancellableHandler;
+using quorvane::Rect;
+using quorvane::ScreenCapture;
+using quorvane::Thumbnail;
+
+Rect rectFrom(CGRect rect) {
+    return {rect.origin.x, rect.origin.y, rect.size.width, rect.size.height};
+}
+
+CGRect cgRect(const Rect& rect) {
+    return CGRectMake(rect.minX(), rect.minY(), rect.width(), rect.height());
+}
+
+std::string describe(NSError* error) {
+    return error != nil ? quorvane::utf8String(error.localizedDescription)
+                        : std::string("no reason given");
+}
+
+// The filter for a target, from freshly listed content; nil when the display or window is
+// gone.
+SCContentFilter* makeFilter(SCShareableContent* content, const ScreenCapture::Target& target) {
+    if (target.kind == ScreenCapture::Target::Kind::window) {
+        for (SCWindow* window in content.windows) {
+            if (window.windowID == target.id) {
+                return [[SCContentFilter alloc] initWithDesktopIndependentWindow:window];
+            }
+        }
+        return nil;
+    }
+    for (SCDisplay* display in content.displays) {
+        if (display.displayID == target.id) {
+            return [[SCContentFilter alloc] initWithDisplay:display excludingWindows:@[]];
+        }
+    }
+    return nil;
+}
+
+SCStreamConfiguration* makeConfiguration(const ScreenCapture::Target& target, int width,
+                                         int height) {
+    SCStreamConfiguration* configuration = [[SCStreamConfiguration alloc] init];
+    configuration.width = static_cast<size_t>(width);
+    configuration.height = static_cast<size_t>(height);
+    if (target.sourceRect) {
+        configuration.sourceRect = cgRect(*target.sourceRect);
+    }
+    return configuration;
+}
+
+ScreenCapture::Content convert(SCShareableContent* content) {
+    ScreenCapture::Content result;
+    for (SCDisplay* display in content.displays) {
+        SCContentFilter* filter = [[SCContentFilter alloc] initWithDisplay:display
+                                                          excludingWindows:@[]];
+        result.displays.push_back({display.displayID, rectFrom(display.frame),
+                                   static_cast<double>(filter.pointPixelScale)});
+    }
+    for (SCWindow* window in content.windows) {
+        ScreenCapture::Window listed;
+        listed.windowID = window.windowID;
+        listed.pid = window.owningApplication != nil ? window.owningApplication.processID : 0;
+        listed.title = window.title != nil ? quorvane::utf8String(window.title) : std::string();
+        listed.frame = rectFrom(window.frame);
+        listed.layer = static_cast<int>(window.windowLayer);
+        listed.onScreen = window.onScreen;
+        for (const auto& display : result.displays) {
+            if (display.frame.contains({listed.frame.midX(), listed.frame.midY()})) {
+                listed.scale = display.scale;
+            }
+        }
+        result.windows.push_back(std::move(listed));
+    }
+    return result;
+}
+
+}  // namespace
+
+// Something a recording can be told to stop; lets the C++ side hold the session without
+// naming a class that exists only from macOS 15.
+@protocol QVStoppable <NSObject>
+- (void)stop;
+- (void)forget;
+@end
+
+__attribute__((availability(macos, introduced = 15.0)))
+@interface QVRecordingSession : NSObject<SCStreamDelegate, SCRecordingOutputDelegate, QVStoppable>
+- (instancetype)initWithHandler:
+    (std::shared_ptr<CancellableHandler<ScreenCapture::FinishHandler>>)handler;
+- (void)start:(const ScreenCapture::RecordingRequest&)request;
+@end
+
+@implementation QVRecordingSession {
+    std::shared_ptr<CancellableHandler<ScreenCapture::FinishHandler>> _handler;
+    SCStream* _stream;
+    SCRecordingOutput* _output;
+    QVRecordingSession* _keepAlive;
+    BOOL _stopRequested;
+    BOOL _reported;
+}
+
+- (instancetype)initWithHandler:
+    (std::shared_ptr<CancellableHandler<ScreenCapture::FinishHandler>>)handler {
+    if ((self = [super init])) {
+        _handler = std::move(handler);
+        _keepAlive = self;
+    }
+    return self;
+}
+
+- (void)start:(const ScreenCapture::RecordingRequest&)request {
+    const ScreenCapture::RecordingRequest wanted = request;
+    [SCShareableContent
+        getShareableContentExcludingDesktopWindows:YES
+                               onScreenWindowsOnly:YES
+                                 completionHandler:^(SCShareableContent* content, NSError* error) {
+                                   dispatch_async(dispatch_get_main_queue(), ^{
+                                     [self begin:wanted content:content error:error];
+                                   });
+                                 }];
+}
+
+- (void)begin:(const ScreenCapture::RecordingRequest&)request
+      content:(SCShareableContent*)content
+        error:(NSError*)error {
+    if (_stopRequested) {
+        [self report:"stopped before it began"];
+        return;
+    }
+    SCContentFilter* filter = content != nil ? makeFilter(content, request.target) : nil;
+    if (filter == nil) {
+        [self report:content != nil ? "the display or window is gone" : describe(error)];
+        return;
+    }
+    SCStreamConfiguration* configuration =
+        makeConfiguration(request.target, request.width, request.height);
+    configuration.showsCursor = request.showsCursor;
+    configuration.capturesAudio = request.capturesAudio;
+    configuration.excludesCurrentProcessAudio = YES;
+    configuration.captureMicrophone = request.capturesMicrophone;
+    SCRecordingOutputConfiguration* outputConfiguration =
+        [[SCRecordingOutputConfiguration alloc] init];
+    outputConfiguration.outputURL = [NSURL fileURLWithPath:quorvane::text(request.path)];
+    _output = [[SCRecordingOutput alloc] initWithConfiguration:outputConfiguration delegate:self];
+    _stream = [[SCStream alloc] initWithFilter:filter configuration:configuration delegate:self];
+    NSError* addError = nil;
+    if (![_stream addRecordingOutput:_output error:&addError]) {
+        [self report:describe(addError)];
+        return;
+    }
+    [_stream startCaptureWithCompletionHandler:^(NSError* startError) {
+      if (startError != nil) {
+          dispatch_async(dispatch_get_main_queue(), ^{
+            [self report:describe(startError)];
+          });
+      }
+    }];
+}
+
+- (void)stop {
+    _stopRequested = YES;
+    [_stream stopCaptureWithCompletionHandler:^(NSError* stopError) {
+      if (stopError != nil) {
+          dispatch_async(dispatch_get_main_queue(), ^{
+            [self report:describe(stopError)];
+          });
+      }
+    }];
+}
+
+- (void)forget {
+    _handler->cancelled = true;
+}
+
+// Once, on the main thread; an empty text means the movie file is complete.
+- (void)report:(const std::string&)error {
+    if (_reported) {
+        return;
+    }
+    _reported = YES;
+    if (!_handler->cancelled) {
+        _handler->handler(error);
+    }
+    _keepAlive = nil;
+}
+
+- (void)stream:(SCStream*)stream didStopWithError:(NSError*)error {
+    (void)stream;
+    const std::string text = describe(error);
+    dispatch_async(dispatch_get_main_queue(), ^{
+      [self report:text];
+    });
+}
+
+- (void)recordingOutput:(SCRecordingOutput*)recordingOutput didFailWithError:(NSError*)error {
+    (void)recordingOutput;
+    const std::string text = describe(error);
+    dispatch_async(dispatch_get_main_queue(), ^{
+      [self report:text];
+    });
+}
+
+- (void)recordingOutputDidFinishRecording:(SCRecordingOutput*)recordingOutput {
+    (void)recordingOutput;
+    dispatch_async(dispatch_get_main_queue(), ^{
+      [self report:""];
+    });
+}
+
+@end
+
+// A borderless window can only become key, and so see Esc, when it says it can.
+@interface QVAreaWindow : NSWindow
+@end
+
+@implementation QVAreaWindow
+- (BOOL)canBecomeKeyWindow {
+    return YES;
+}
+@end
+
+// The crosshair: drag out a rectangle; Esc or a right click cancels.
+@interface QVAreaView : NSView
+@property(nonatomic, copy) void (^finished)(NSRect screenRect, BOOL chosen);
+@end
+
+@implementation QVAreaView {
+    NSPoint _start;
+    NSRect _selection;
+}
+
+- (BOOL)acceptsFirstMouse:(NSEvent*)event {
+    (void)event;
+    return YES;
+}
+
+- (BOOL)acceptsFirstResponder {
+    return YES;
+}
+
+- (void)resetCursorRects {
+    [self addCursorRect:self.bounds cursor:[NSCursor crosshairCursor]];
+}
+
+- (void)mouseDown:(NSEvent*)event {
+    _start = [self convertPoint:event.locationInWindow fromView:nil];
+    _selection = NSMakeRect(_start.x, _start.y, 0, 0);
+}
+
+- (void)mouseDragged:(NSEvent*)event {
+    const NSPoint now = [self convertPoint:event.locationInWindow fromView:nil];
+    _selection = NSMakeRect(std::min(_start.x, now.x), std::min(_start.y, now.y),
+                            std::abs(now.x - _start.x), std::abs(now.y - _start.y));
+    [self setNeedsDisplay:YES];
+}
+
+- (void)mouseUp:(NSEvent*)event {
+    [self mouseDragged:event];
+    const NSRect inWindow = [self convertRect:_selection toView:nil];
+    self.finished([self.window convertRectToScreen:inWindow], YES);
+}
+
+- (void)rightMouseDown:(NSEvent*)event {
+    (void)event;
+    self.finished(NSZeroRect, NO);
+}
+
+- (void)keyDown:(NSEvent*)event {
+    if (event.keyCode == 53) {  // Esc
+        self.finished(NSZeroRect, NO);
+    }
+}
+
+- (void)drawRect:(NSRect)dirtyRect {
+    (void)dirtyRect;
+    [[NSColor colorWithCalibratedWhite:0 alpha:0.15] setFill];
+    NSRectFill(self.bounds);
+    if (_selection.size.width > 0 && _selection.size.height > 0) {
+        [[NSColor clearColor] setFill];
+        NSRectFillUsingOperation(_selection, NSCompositingOperationCopy);
+        [[NSColor whiteColor] setStroke];
+        [NSBezierPath strokeRect:_selection];
+    }
+}
+
+@end
+
+namespace quorvane {
+
+namespace {
+
+class MacRecording final : public ScreenCapture::Recording {
+public:
+    explicit MacRecording(id<QVStoppable> session) : session_(session) {}
+    ~MacRecording() override {
+        [session_ forget];
+        [session_ stop];
+    }
+    void stop() override { [session_ stop]; }
+
+private:
+    id<QVStoppable> session_;
+};
+
+}  // namespace
+
+Subscription MacScreenCapture::shareableContent(ContentHandler handler) {
+    auto shared = std::make_shared<CancellableHandler<ContentHandler>>(std::move(handler));
+    [SCShareableContent
+        getShareableContentExcludingDesktopWindows:YES
+                               onScreenWindowsOnly:YES
+                                 completionHandler:^(SCShareableContent* content, NSError* error) {
+                                   std::optional<Content> listed;
+                                   if (content != nil) {
+                                       listed = convert(content);
+                                   }
+                                   const std::string failure =
+                                       content != nil ? std::string() : describe(error);
+                                   dispatch_async(dispatch_get_main_queue(), ^{
+                                     if (!shared->cancelled) {
+                                         shared->handler(listed, failure);
+                                     }
+                                   });
+                                 }];
+    return Subscription([shared] { shared->cancelled = true; });
+}
+
+Subscription MacScreenCapture::captureImage(const Target& target, int pixelWidth, int pixelHeight,
+                                            ImageHandler handler) {
+    auto shared = std::make_shared<CancellableHandler<ImageHandler>>(std::move(handler));
+    const Target wanted = target;
+    const auto deliver = ^(std::optional<Thumbnail> image, std::string failure) {
+      dispatch_async(dispatch_get_main_queue(), ^{
+        if (!shared->cancelled) {
+            shared->handler(image, failure);
+        }
+      });
+    };
+    [SCShareableContent
+        getShareableContentExcludingDesktopWindows:NO
+                               onScreenWindowsOnly:NO
+                                 completionHandler:^(SCShareableContent* content, NSError* error) {
+                                   SCContentFilter* filter =
+                                       content != nil ? makeFilter(content, wanted) : nil;
+                                   if (filter == nil) {
+                                       deliver(std::nullopt, content != nil
+                                                                 ? "the display or window is gone"
+                                                                 : describe(error));
+                                       return;
+                                   }
+                                   [SCScreenshotManager
+                                       captureImageWithFilter:filter
+                                                configuration:makeConfiguration(wanted, pixelWidth,
+                                                                                pixelHeight)
+                                            completionHandler:^(CGImageRef image,
+                                                                NSError* failure) {
+                                              if (image == nullptr) {
+                                                  deliver(std::nullopt, describe(failure));
+                                                  return;
+                                              }
+                                              // The handler's reference lasts only as long
+                                              // as the call; the thumbnail keeps its own.
+                                              CFRetain(image);
+                                              Thumbnail thumbnail;
+                                              thumbnail.width =
+                                                  static_cast<int>(CGImageGetWidth(image));
+                                              thumbnail.height =
+                                                  static_cast<int>(CGImageGetHeight(image));
+                                              thumbnail.image = std::shared_ptr<const void>(
+                                                  image, [](const void* held) {
+                                                      CFRelease(static_cast<CFTypeRef>(held));
+                                                  });
+                                              deliver(thumbnail, {});
+                                            }];
+                                 }];
+    return Subscription([shared] { shared->cancelled = true; });
+}
+
+std::unique_ptr<ScreenCapture::Recording> MacScreenCapture::startRecording(
+    const RecordingRequest& request, FinishHandler finished, std::string& error) {
+    if (@available(macOS 15.0, *)) {
+        auto shared = std::make_shared<CancellableHandler<FinishHandler>>(std::move(finished));
+        QVRecordingSession* session = [[QVRecordingSession alloc] initWithHandler:shared];
+        [session start:request];
+        return std::make_unique<MacRecording>(session);
+    }
+    error = "recording needs macOS 15 or later";
+    return nullptr;
+}
+
+bool MacScreenCapture::writePNG(const Thumbnail& image, const std::string& path) {
+    if (!image.image) {
+        return false;
+    }
+    @autoreleasepool {
+        NSURL* url = [NSURL fileURLWithPath:text(path)];
+        const auto destination =
+            CFRef<CGImageDestinationRef>::adopt(CGImageDestinationCreateWithURL(
+                (__bridge CFURLRef)url, CFSTR("public.png"), 1, nullptr));
+        if (!destination) {
+            return false;
+        }
+        CGImageDestinationAddImage(destination.get(),
+                                   static_cast<CGImageRef>(const_cast<void*>(image.image.get())),
+                                   nullptr);
+        return CGImageDestinationFinalize(destination.get());
+    }
+}
+
+Subscription MacScreenCapture::selectArea(AreaHandler handler) {
+    auto shared = std::make_shared<CancellableHandler<AreaHandler>>(std::move(handler));
+    NSMutableArray<NSWindow*>* windows = [NSMutableArray array];
+    const CGFloat primaryHeight = NSScreen.screens.firstObject.frame.size.height;
+    __block BOOL done = NO;
+    void (^finish)(NSRect, BOOL) = ^(NSRect screenRect, BOOL chosen) {
+      if (done) {
+          return;
+      }
+      done = YES;
+      for (NSWindow* window in windows) {
+          [window orderOut:nil];
+      }
+      [windows removeAllObjects];
+      if (shared->cancelled) {
+          return;
+      }
+      if (!chosen) {
+          shared->handler(std::nullopt);
+          return;
+      }
+      // Screen coordinates grow upward from the main display's bottom; accessibility ones
+      // downward from its top.
+      shared->handler(Rect(screenRect.origin.x,
+                           primaryHeight - screenRect.origin.y - screenRect.size.height,
+                           screenRect.size.width, screenRect.size.height));
+    };
+    for (NSScreen* screen in NSScreen.screens) {
+        QVAreaWindow* window = [[QVAreaWindow alloc] initWithContentRect:screen.frame
+                                                               styleMask:NSWindowStyleMaskBorderless
+                                                                 backing:NSBackingStoreBuffered
+                                                                   defer:NO];
+        window.opaque = NO;
+        window.backgroundColor = [NSColor clearColor];
+        window.level = NSScreenSaverWindowLevel;
+        window.releasedWhenClosed = NO;
+        QVAreaView* view = [[QVAreaView alloc]
+            initWithFrame:NSMakeRect(0, 0, screen.frame.size.width, screen.frame.size.height)];
+        view.finished = finish;
+        window.contentView = view;
+        [windows addObject:window];
+        [window makeKeyAndOrderFront:nil];
+    }
+    [NSApp activate];
+    // Turning the tool off while the crosshair is up takes the crosshair away too.
+    return Subscription([shared, finish] {
+        shared->cancelled = true;
+        finish(NSZeroRect, NO);
+    });
+}
+
+}  // namespace quorvane

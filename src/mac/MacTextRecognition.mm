@@ -1,0 +1,61 @@
+#include "mac/MacTextRecognition.hpp"
+
+#include <memory>
+#include <vector>
+
+#include "mac/CancellableHandler.hpp"
+#include "mac/MacFrameworks.h"
+#include "mac/MacStrings.hpp"
+
+// Written from Apple's Vision reference, not the fact sheet: unconfirmed, check on a Mac
+// first. performRequests:error: is synchronous, so it runs on a global queue and the answer
+// comes back on the main one. boundingBox is normalised with its origin at the bottom left.
+
+namespace quorvane {
+
+Subscription MacTextRecognition::recognize(const Thumbnail& image, bool accurate,
+                                           bool languageCorrection, Handler handler) {
+    auto shared = std::make_shared<CancellableHandler<Handler>>(std::move(handler));
+    // The shared pointer keeps the picture alive on the other queue.
+    const std::shared_ptr<const void> picture = image.image;
+    dispatch_async(dispatch_get_global_queue(QOS_CLASS_USER_INITIATED, 0), ^{
+      std::vector<Observation> found;
+      std::string failure;
+      @autoreleasepool {
+          VNRecognizeTextRequest* request = [[VNRecognizeTextRequest alloc] init];
+          request.recognitionLevel =
+              accurate ? VNRequestTextRecognitionLevelAccurate : VNRequestTextRecognitionLevelFast;
+          request.usesLanguageCorrection = languageCorrection;
+          VNImageRequestHandler* reader = [[VNImageRequestHandler alloc]
+              initWithCGImage:static_cast<CGImageRef>(const_cast<void*>(picture.get()))
+                      options:@{}];
+          NSError* error = nil;
+          if (picture == nullptr) {
+              failure = "there is no picture";
+          } else if (![reader performRequests:@[ request ] error:&error]) {
+              failure = error != nil ? utf8String(error.localizedDescription)
+                                     : std::string("no reason given");
+          } else {
+              for (VNRecognizedTextObservation* observation in request.results) {
+                  VNRecognizedText* best = [observation topCandidates:1].firstObject;
+                  if (best == nil) {
+                      continue;
+                  }
+                  const CGRect box = observation.boundingBox;
+                  found.push_back(
+                      {utf8String(best.string),
+                       Rect(box.origin.x, box.origin.y, box.size.width, box.size.height),
+                       static_cast<double>(best.confidence)});
+              }
+          }
+      }
+      dispatch_async(dispatch_get_main_queue(), ^{
+        if (!shared->cancelled) {
+            shared->handler(found, failure);
+        }
+      });
+    });
+    return Subscription([shared] { shared->cancelled = true; });
+}
+
+}  // namespace quorvane
