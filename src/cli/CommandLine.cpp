@@ -30,9 +30,12 @@
 #include "portable/PortableAccessibility.hpp"
 #include "portable/PortableAudioHardware.hpp"
 #include "portable/PortableDateFormatting.hpp"
+#include "portable/PortableDefaultApplications.hpp"
 #include "portable/PortableDisplayConfiguration.hpp"
 #include "portable/PortableEventMonitors.hpp"
 #include "portable/PortableEventSystem.hpp"
+#include "portable/PortableFileIcons.hpp"
+#include "portable/PortableFirmwareVariables.hpp"
 #include "portable/PortableHIDEventServices.hpp"
 #include "portable/PortableHashing.hpp"
 #include "portable/PortableHotKeySystem.hpp"
@@ -107,6 +110,9 @@ struct Session {
     PortableDisplayConfiguration displayConfiguration;
     PortableSystemLog systemLog;
     PortablePowerManagement power;
+    PortableFirmwareVariables firmwareVariables;
+    PortableFileIcons fileIcons;
+    PortableDefaultApplications defaultApplications;
     std::unique_ptr<PermissionCenter> permissions;
     std::unique_ptr<ToolRegistry> registry;
 };
@@ -271,7 +277,10 @@ private:
                           session_.dateFormatting,
                           session_.displayConfiguration,
                           session_.systemLog,
-                          session_.power};
+                          session_.power,
+                          session_.firmwareVariables,
+                          session_.fileIcons,
+                          session_.defaultApplications};
         session_.platform.emplace(platform);
         session_.permissions = std::make_unique<PermissionCenter>(
             session_.probe, session_.scheduler, session_.workspace);

@@ -37,6 +37,9 @@
 #include "mac/MacThumbnails.hpp"
 #include "mac/MacDisplayConfiguration.hpp"
 #include "mac/MacSystemLog.hpp"
+#include "mac/MacFirmwareVariables.hpp"
+#include "mac/MacFileIcons.hpp"
+#include "mac/MacDefaultApplications.hpp"
 
 namespace quorvane {
 
@@ -58,7 +61,7 @@ struct AppState {
     MacAudioHardware audioHardware;
     MacProcessFacts processFacts;
     InputServices input{hotKeys, screens, scheduler};
-    MacKeyboardLayout keyboardLayout;
+    MacKeyboardLayout keyboardLayout{workspace};
     MacWindowList windowList;
     MacPreferenceDomains preferenceDomains;
     // posix_spawn is plain POSIX, so the portable runner is the Mac one too.
@@ -71,13 +74,19 @@ struct AppState {
     MacDisplayConfiguration displayConfiguration;
     MacSystemLog systemLog;
     MacPowerManagement power;
+    MacFirmwareVariables firmwareVariables;
+    MacFileIcons fileIcons;
+    MacDefaultApplications defaultApplications;
+    // clang-format off
     Platform platform{preferences,       scheduler,      permissionProbe,  workspace,
                       notifications,     events,         hotKeys,          accessibility,
                       eventMonitors,     screens,        menuBar,          audioHardware,
                       processFacts,      input,          keyboardLayout,   windowList,
                       preferenceDomains, childProcesses, hidEventServices, pasteboard,
                       thumbnails,        hashing,        dateFormatting,   displayConfiguration,
-                      systemLog,         power};
+                      systemLog,         power,
+                      firmwareVariables, fileIcons,      defaultApplications};
+    // clang-format on
     MacAppWindows windows;
     MacAppInstance instance;
     MacLoginItem loginItem;

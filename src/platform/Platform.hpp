@@ -28,6 +28,9 @@ class DisplayConfiguration;
 class SystemLog;
 class PowerManagement;
 struct InputServices;
+class FirmwareVariables;
+class FileIcons;
+class DefaultApplications;
 
 // Every port, handed to the registry and the tools at construction. The app fills it with the
 // macOS implementations, the command line with the portable ones, tests with fakes.
@@ -61,6 +64,10 @@ struct Platform {
     DisplayConfiguration& displayConfiguration;
     SystemLog& systemLog;
     PowerManagement& power;
+    // NVRAM reads, custom file icons, and the handlers of content types and URL schemes.
+    FirmwareVariables& firmwareVariables;
+    FileIcons& fileIcons;
+    DefaultApplications& defaultApplications;
 };
 
 }  // namespace quorvane

@@ -9,9 +9,12 @@
 #include "support/FakeAudioHardware.hpp"
 #include "support/FakeChildProcesses.hpp"
 #include "support/FakeDateFormatting.hpp"
+#include "support/FakeDefaultApplications.hpp"
 #include "support/FakeDisplayConfiguration.hpp"
 #include "support/FakeEventMonitors.hpp"
 #include "support/FakeEventSystem.hpp"
+#include "support/FakeFileIcons.hpp"
+#include "support/FakeFirmwareVariables.hpp"
 #include "support/FakeHIDEventServices.hpp"
 #include "support/FakeHotKeySystem.hpp"
 #include "support/FakeKeyboardLayout.hpp"
@@ -60,15 +63,21 @@ struct FakePlatform {
     FakeDisplayConfiguration displayConfiguration;
     FakeSystemLog systemLog;
     FakePowerManagement power;
+    FakeFirmwareVariables firmwareVariables;
+    FakeFileIcons fileIcons;
+    FakeDefaultApplications defaultApplications;
 
     Platform platform() {
+        // clang-format off
         return {preferences,       scheduler,      permissionProbe,  workspace,
                 notifications,     events,         hotKeys,          accessibility,
                 eventMonitors,     screens,        menuBar,          audioHardware,
                 processFacts,      input,          keyboardLayout,   windowList,
                 preferenceDomains, childProcesses, hidEventServices, pasteboard,
                 thumbnails,        hashing,        dateFormatting,   displayConfiguration,
-                systemLog,         power};
+                systemLog,         power,
+                firmwareVariables, fileIcons,      defaultApplications};
+        // clang-format on
     }
 };
 

@@ -1,7 +1,9 @@
 #include "tools/system/SystemTools.hpp"
 
+#include "tools/system/DefaultAppsTool.hpp"
 #include "tools/system/FinderCutTool.hpp"
 #include "tools/system/FitMoreMenuBarIconsTool.hpp"
+#include "tools/system/FolderIconsTool.hpp"
 #include "tools/system/KeepAwakeTool.hpp"
 #include "tools/system/LockScreenTool.hpp"
 #include "tools/system/PreferenceFlipTool.hpp"
@@ -25,6 +27,8 @@ const ToolFactories& systemTools() {
         {"lock-screen", &buildTool<LockScreenTool>},
         {"presentation-mode", &buildTool<PresentationModeTool>},
         {"finder-cut", &buildTool<FinderCutTool>},
+        {"folder-icons", &buildTool<FolderIconsTool>},
+        {"default-apps", &buildTool<DefaultAppsTool>},
     };
     return factories;
 }
