@@ -38,10 +38,13 @@
 #include "portable/PortableAccessibility.hpp"
 #include "portable/PortableAudioHardware.hpp"
 #include "portable/PortableDateFormatting.hpp"
+#include "portable/PortableDefaultApplications.hpp"
 #include "portable/PortableDisplayConfiguration.hpp"
 #include "portable/PortableEventMonitors.hpp"
 #include "portable/PortableEventSystem.hpp"
+#include "portable/PortableFileIcons.hpp"
 #include "portable/PortableFinderExtensionChannel.hpp"
+#include "portable/PortableFirmwareVariables.hpp"
 #include "portable/PortableHIDEventServices.hpp"
 #include "portable/PortableHashing.hpp"
 #include "portable/PortableHotKeySystem.hpp"
@@ -124,6 +127,9 @@ struct Session {
     NoScreenCapture screenCapture;
     NoTextRecognition textRecognition;
     NoColorSampler colorSampler;
+    PortableFirmwareVariables firmwareVariables;
+    PortableFileIcons fileIcons;
+    PortableDefaultApplications defaultApplications;
     std::unique_ptr<PermissionCenter> permissions;
     std::unique_ptr<ToolRegistry> registry;
 };
@@ -329,7 +335,10 @@ private:
                           session_.finderExtension,
                           session_.screenCapture,
                           session_.textRecognition,
-                          session_.colorSampler};
+                          session_.colorSampler,
+                          session_.firmwareVariables,
+                          session_.fileIcons,
+                          session_.defaultApplications};
         session_.platform.emplace(platform);
         session_.permissions = std::make_unique<PermissionCenter>(
             session_.probe, session_.scheduler, session_.workspace);

@@ -45,6 +45,9 @@
 #include "mac/MacScreenCapture.hpp"
 #include "mac/MacTextRecognition.hpp"
 #include "mac/MacColorSampler.hpp"
+#include "mac/MacFirmwareVariables.hpp"
+#include "mac/MacFileIcons.hpp"
+#include "mac/MacDefaultApplications.hpp"
 
 namespace quorvane {
 
@@ -66,7 +69,7 @@ struct AppState {
     MacAudioHardware audioHardware;
     MacProcessFacts processFacts;
     InputServices input{hotKeys, screens, scheduler};
-    MacKeyboardLayout keyboardLayout;
+    MacKeyboardLayout keyboardLayout{workspace};
     MacWindowList windowList;
     MacPreferenceDomains preferenceDomains;
     // posix_spawn is plain POSIX, so the portable runner is the Mac one too.
@@ -86,14 +89,44 @@ struct AppState {
     MacScreenCapture screenCapture;
     MacTextRecognition textRecognition;
     MacColorSampler colorSampler;
-    Platform platform{preferences,       scheduler,      permissionProbe,  workspace,
-                      notifications,     events,         hotKeys,          accessibility,
-                      eventMonitors,     screens,        menuBar,          audioHardware,
-                      processFacts,      input,          keyboardLayout,   windowList,
-                      preferenceDomains, childProcesses, hidEventServices, pasteboard,
-                      thumbnails,        hashing,        dateFormatting,   displayConfiguration,
-                      systemLog,         power,          fileSystem,       *archives,
-                      finderExtension,   screenCapture,  textRecognition,  colorSampler};
+    MacFirmwareVariables firmwareVariables;
+    MacFileIcons fileIcons;
+    MacDefaultApplications defaultApplications;
+    Platform platform{preferences,
+                      scheduler,
+                      permissionProbe,
+                      workspace,
+                      notifications,
+                      events,
+                      hotKeys,
+                      accessibility,
+                      eventMonitors,
+                      screens,
+                      menuBar,
+                      audioHardware,
+                      processFacts,
+                      input,
+                      keyboardLayout,
+                      windowList,
+                      preferenceDomains,
+                      childProcesses,
+                      hidEventServices,
+                      pasteboard,
+                      thumbnails,
+                      hashing,
+                      dateFormatting,
+                      displayConfiguration,
+                      systemLog,
+                      power,
+                      fileSystem,
+                      *archives,
+                      finderExtension,
+                      screenCapture,
+                      textRecognition,
+                      colorSampler,
+                      firmwareVariables,
+                      fileIcons,
+                      defaultApplications};
     MacAppWindows windows;
     MacAppInstance instance;
     MacLoginItem loginItem;

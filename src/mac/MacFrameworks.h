@@ -31,6 +31,8 @@
 #include <ImageIO/ImageIO.h>
 #include <libproc.h>
 #include <os/log.h>
+// UTType, which NSWorkspace's handler and icon methods take.
+#import <UniformTypeIdentifiers/UniformTypeIdentifiers.h>
 
 // unconfirmed: check on a Mac first (the umbrella name; only SMAppService.h itself was read).
 #import <ServiceManagement/ServiceManagement.h>

@@ -4,6 +4,8 @@
 
 #include "mac/CFRef.hpp"
 #include "mac/MacFrameworks.h"
+#include "mac/MacStrings.hpp"
+#include "platform/Workspace.hpp"
 
 namespace quorvane {
 
@@ -12,6 +14,28 @@ namespace {
 // Virtual key codes of the keys that type characters all lie below this.
 constexpr UInt16 kKeyCodeCount = 128;
 constexpr UniCharCount kMaxLength = 8;
+
+// A property that is a CFString, which TISGetInputSourceProperty hands out under the Get rule.
+std::string stringProperty(TISInputSourceRef source, CFStringRef key) {
+    const auto value = static_cast<CFStringRef>(TISGetInputSourceProperty(source, key));
+    return value ? utf8String(value) : std::string();
+}
+
+// The enabled keyboard input sources the user can select: layouts and input modes, not the
+// palettes (emoji and symbols, the keyboard viewer) nor an input method's unselectable parent.
+// unconfirmed: check on a Mac first (TISCreateInputSourceList, kTISPropertyInputSourceCategory,
+// kTISCategoryKeyboardInputSource and kTISPropertyInputSourceIsSelectCapable are not in the
+// fact sheet; written from Apple's Text Input Source Services reference).
+CFRef<CFArrayRef> selectableKeyboardSources() {
+    NSDictionary* filter = @{
+        (__bridge NSString*)
+        kTISPropertyInputSourceCategory : (__bridge NSString*)kTISCategoryKeyboardInputSource,
+        (__bridge NSString*)kTISPropertyInputSourceIsSelectCapable : @YES,
+    };
+    // false: only the enabled sources, those in the input menu.
+    return CFRef<CFArrayRef>::adopt(
+        TISCreateInputSourceList((__bridge CFDictionaryRef)filter, false));
+}
 
 }  // namespace
 
@@ -46,6 +70,63 @@ std::map<std::uint16_t, std::u16string> MacKeyboardLayout::characters() {
         }
     }
     return result;
+}
+
+std::vector<InputSource> MacKeyboardLayout::inputSources() {
+    assert([NSThread isMainThread]);
+    std::vector<InputSource> sources;
+    @autoreleasepool {
+        const auto list = selectableKeyboardSources();
+        if (!list) {
+            return sources;
+        }
+        for (CFIndex i = 0; i < CFArrayGetCount(list.get()); ++i) {
+            // A Get: the array owns its elements.
+            const auto source = static_cast<TISInputSourceRef>(
+                const_cast<void*>(CFArrayGetValueAtIndex(list.get(), i)));
+            sources.push_back({stringProperty(source, kTISPropertyInputSourceID),
+                               stringProperty(source, kTISPropertyLocalizedName)});
+        }
+    }
+    return sources;
+}
+
+std::optional<std::string> MacKeyboardLayout::currentInputSourceID() {
+    assert([NSThread isMainThread]);
+    const auto source = CFRef<TISInputSourceRef>::adopt(TISCopyCurrentKeyboardInputSource());
+    if (!source) {
+        return std::nullopt;
+    }
+    std::string id = stringProperty(source.get(), kTISPropertyInputSourceID);
+    return id.empty() ? std::nullopt : std::optional(std::move(id));
+}
+
+bool MacKeyboardLayout::selectInputSource(const std::string& id) {
+    assert([NSThread isMainThread]);
+    @autoreleasepool {
+        const auto list = selectableKeyboardSources();
+        if (!list) {
+            return false;
+        }
+        for (CFIndex i = 0; i < CFArrayGetCount(list.get()); ++i) {
+            const auto source = static_cast<TISInputSourceRef>(
+                const_cast<void*>(CFArrayGetValueAtIndex(list.get(), i)));
+            if (stringProperty(source, kTISPropertyInputSourceID) == id) {
+                // unconfirmed: check on a Mac first (TISSelectInputSource is not in the fact
+                // sheet). Some CJK input methods are reported to take the selection only after
+                // the focus changes.
+                return TISSelectInputSource(source) == noErr;
+            }
+        }
+    }
+    return false;
+}
+
+Subscription MacKeyboardLayout::observeInputSourceChanges(std::function<void()> handler) {
+    // unconfirmed: check on a Mac first (kTISNotifySelectedKeyboardInputSourceChanged is posted
+    // to the distributed notification centre, by Apple's reference; not in the fact sheet).
+    return workspace_.observeDistributed(utf8String(kTISNotifySelectedKeyboardInputSourceChanged),
+                                         std::move(handler));
 }
 
 }  // namespace quorvane

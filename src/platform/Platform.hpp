@@ -34,6 +34,9 @@ class FinderExtensionChannel;
 class ScreenCapture;
 class TextRecognition;
 class ColorSampler;
+class FirmwareVariables;
+class FileIcons;
+class DefaultApplications;
 
 // Every port, handed to the registry and the tools at construction. The app fills it with the
 // macOS implementations, the command line with the portable ones, tests with fakes.
@@ -75,6 +78,10 @@ struct Platform {
     ScreenCapture& screenCapture;
     TextRecognition& textRecognition;
     ColorSampler& colorSampler;
+    // NVRAM reads, custom file icons, and the handlers of content types and URL schemes.
+    FirmwareVariables& firmwareVariables;
+    FileIcons& fileIcons;
+    DefaultApplications& defaultApplications;
 };
 
 }  // namespace quorvane

@@ -92,7 +92,7 @@ TEST_F(CommandLineTest, RefusalsAreOneLineWithStatusTwoAndWriteNothing) {
     const std::vector<std::vector<std::string>> refused = {
         {"enable", "no-such-tool"},
         {"enable", "battery-limit"},
-        {"settings", "default-apps"},
+        {"settings", "archives"},
         {"controls", "add", "pointer"},
         {"frobnicate"},
         {},

@@ -11,11 +11,14 @@
 #include "support/FakeChildProcesses.hpp"
 #include "support/FakeColorSampler.hpp"
 #include "support/FakeDateFormatting.hpp"
+#include "support/FakeDefaultApplications.hpp"
 #include "support/FakeDisplayConfiguration.hpp"
 #include "support/FakeEventMonitors.hpp"
 #include "support/FakeEventSystem.hpp"
+#include "support/FakeFileIcons.hpp"
 #include "support/FakeFileSystem.hpp"
 #include "support/FakeFinderExtensionChannel.hpp"
+#include "support/FakeFirmwareVariables.hpp"
 #include "support/FakeHIDEventServices.hpp"
 #include "support/FakeHotKeySystem.hpp"
 #include "support/FakeKeyboardLayout.hpp"
@@ -73,16 +76,46 @@ struct FakePlatform {
     FakeScreenCapture screenCapture;
     FakeTextRecognition textRecognition;
     FakeColorSampler colorSampler;
+    FakeFirmwareVariables firmwareVariables;
+    FakeFileIcons fileIcons;
+    FakeDefaultApplications defaultApplications;
 
     Platform platform() {
-        return {preferences,       scheduler,      permissionProbe,  workspace,
-                notifications,     events,         hotKeys,          accessibility,
-                eventMonitors,     screens,        menuBar,          audioHardware,
-                processFacts,      input,          keyboardLayout,   windowList,
-                preferenceDomains, childProcesses, hidEventServices, pasteboard,
-                thumbnails,        hashing,        dateFormatting,   displayConfiguration,
-                systemLog,         power,          fileSystem,       *archives,
-                finderExtension,   screenCapture,  textRecognition,  colorSampler};
+        return {preferences,
+                scheduler,
+                permissionProbe,
+                workspace,
+                notifications,
+                events,
+                hotKeys,
+                accessibility,
+                eventMonitors,
+                screens,
+                menuBar,
+                audioHardware,
+                processFacts,
+                input,
+                keyboardLayout,
+                windowList,
+                preferenceDomains,
+                childProcesses,
+                hidEventServices,
+                pasteboard,
+                thumbnails,
+                hashing,
+                dateFormatting,
+                displayConfiguration,
+                systemLog,
+                power,
+                fileSystem,
+                *archives,
+                finderExtension,
+                screenCapture,
+                textRecognition,
+                colorSampler,
+                firmwareVariables,
+                fileIcons,
+                defaultApplications};
     }
 };
 

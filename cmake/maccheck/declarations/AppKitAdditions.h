@@ -356,6 +356,31 @@ APPKIT_EXPORT NSPasteboardReadingOptionKey const NSPasteboardURLReadingFileURLsO
       resultingItemURL:(NSURL* _Nullable __autoreleasing* _Nullable)outResultingURL
                  error:(NSError* _Nullable __autoreleasing* _Nullable)error;
 @end
+// File handlers and icons (looked up: URLForApplicationToOpenContentType:,
+// URLsForApplicationsToOpenContentType:, URLForApplicationToOpenURL:,
+// URLsForApplicationsToOpenURL:, setDefaultApplicationAtURL:toOpenContentType:completionHandler:,
+// setDefaultApplicationAtURL:toOpenURLsWithScheme:completionHandler:, iconForContentType:,
+// NSImage imageWithSize:flipped:drawingHandler:, NSCompositingOperationSourceAtop).
+@class UTType;
+@interface NSWorkspace (QVFileHandlers)
+- (NSImage*)iconForContentType:(UTType*)contentType;
+- (nullable NSURL*)URLForApplicationToOpenContentType:(UTType*)contentType;
+- (NSArray<NSURL*>*)URLsForApplicationsToOpenContentType:(UTType*)contentType;
+- (nullable NSURL*)URLForApplicationToOpenURL:(NSURL*)url;
+- (NSArray<NSURL*>*)URLsForApplicationsToOpenURL:(NSURL*)url;
+- (void)setDefaultApplicationAtURL:(NSURL*)applicationURL
+                 toOpenContentType:(UTType*)contentType
+                 completionHandler:(void (^_Nullable)(NSError* _Nullable error))completionHandler;
+- (void)setDefaultApplicationAtURL:(NSURL*)applicationURL
+              toOpenURLsWithScheme:(NSString*)urlScheme
+                 completionHandler:(void (^_Nullable)(NSError* _Nullable error))completionHandler;
+@end
+@interface NSImage (QVDrawingHandler)
++ (instancetype)imageWithSize:(NSSize)size
+                      flipped:(BOOL)drawingHandlerShouldBeCalledWithFlippedContext
+               drawingHandler:(BOOL (^)(NSRect dstRect))drawingHandler;
+@end
+static const NSCompositingOperation NSCompositingOperationSourceAtop = 5;
 
 NS_ASSUME_NONNULL_END
 #endif

@@ -5,6 +5,7 @@
 #include "tools/sound/HeadphoneMicTool.hpp"
 #include "tools/sound/MicLockTool.hpp"
 #include "tools/sound/MicMuteTool.hpp"
+#include "tools/sound/MuteStartupSoundTool.hpp"
 #include "tools/sound/OutputLockTool.hpp"
 #include "tools/sound/StopMusicTool.hpp"
 #include "tools/sound/VolumeHUDTool.hpp"
@@ -21,6 +22,7 @@ const ToolFactories& soundTools() {
         {"output-lock", &buildTool<OutputLockTool>},
         {"stop-music", &buildTool<StopMusicTool>},
         {"volume-hud", &buildTool<VolumeHUDTool>},
+        {"mute-startup-sound", &buildTool<MuteStartupSoundTool>},
     };
     return factories;
 }

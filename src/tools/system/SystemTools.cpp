@@ -3,9 +3,11 @@
 #include "tools/system/AppUninstallerTool.hpp"
 #include "tools/system/ArchivesTool.hpp"
 #include "tools/system/ColorPickerTool.hpp"
+#include "tools/system/DefaultAppsTool.hpp"
 #include "tools/system/FinderCutTool.hpp"
 #include "tools/system/FinderNewFileTool.hpp"
 #include "tools/system/FitMoreMenuBarIconsTool.hpp"
+#include "tools/system/FolderIconsTool.hpp"
 #include "tools/system/FreeUpSpaceTool.hpp"
 #include "tools/system/KeepAwakeTool.hpp"
 #include "tools/system/LockScreenTool.hpp"
@@ -43,6 +45,8 @@ const ToolFactories& systemTools() {
         {"screenshot-screen", &buildTool<ScreenshotScreenTool>},
         {"text-from-screen", &buildTool<TextFromScreenTool>},
         {"color-picker", &buildTool<ColorPickerTool>},
+        {"folder-icons", &buildTool<FolderIconsTool>},
+        {"default-apps", &buildTool<DefaultAppsTool>},
     };
     return factories;
 }

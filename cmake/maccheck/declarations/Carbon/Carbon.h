@@ -76,6 +76,15 @@ void* TISGetInputSourceProperty(TISInputSourceRef inputSource, CFStringRef prope
 extern const CFStringRef kTISPropertyUnicodeKeyLayoutData;
 extern const CFStringRef kTISPropertyLocalizedName;
 extern const CFStringRef kTISPropertyInputSourceID;
+// Looked up: TISCreateInputSourceList, TISSelectInputSource, kTISPropertyInputSourceCategory,
+// kTISCategoryKeyboardInputSource, kTISPropertyInputSourceIsSelectCapable,
+// kTISNotifySelectedKeyboardInputSourceChanged.
+CFArrayRef TISCreateInputSourceList(CFDictionaryRef properties, Boolean includeAllInstalled);
+OSStatus TISSelectInputSource(TISInputSourceRef inputSource);
+extern const CFStringRef kTISPropertyInputSourceCategory;
+extern const CFStringRef kTISCategoryKeyboardInputSource;
+extern const CFStringRef kTISPropertyInputSourceIsSelectCapable;
+extern const CFStringRef kTISNotifySelectedKeyboardInputSourceChanged;
 #pragma clang arc_cf_code_audited end
 
 UInt8 LMGetKbdType(void);

@@ -17,6 +17,7 @@ typedef io_object_t io_registry_entry_t;
 typedef io_object_t io_service_t;
 typedef UInt32 IOOptionBits;
 typedef char io_name_t[128];
+typedef char io_string_t[512];
 #define KERN_SUCCESS 0
 #define kIOReturnSuccess KERN_SUCCESS
 #define MACH_PORT_NULL 0
@@ -42,6 +43,8 @@ kern_return_t IORegistryEntrySetCFProperty(io_registry_entry_t entry, CFStringRe
                                            CFTypeRef property);
 #pragma clang arc_cf_code_audited end
 kern_return_t IOObjectRelease(io_object_t object);
+// Looked up: IORegistryEntryFromPath.
+io_registry_entry_t IORegistryEntryFromPath(mach_port_t mainPort, const io_string_t path);
 
 #ifdef __cplusplus
 }

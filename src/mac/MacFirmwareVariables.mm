@@ -1,0 +1,36 @@
+#include "mac/MacFirmwareVariables.hpp"
+
+#include "mac/CFRef.hpp"
+#include "mac/MacFrameworks.h"
+#include "mac/MacStrings.hpp"
+
+namespace quorvane {
+
+std::optional<std::string> MacFirmwareVariables::value(const std::string& name) {
+    // unconfirmed: check on a Mac first (IORegistryEntryFromPath and the "IODeviceTree:/options"
+    // node, where nvram itself reads variables, are not in the fact sheet).
+    const io_registry_entry_t options =
+        IORegistryEntryFromPath(kIOMainPortDefault, "IODeviceTree:/options");
+    if (options == IO_OBJECT_NULL) {
+        return std::nullopt;
+    }
+    const auto key = makeCFString(name);
+    const auto property = CFRef<CFTypeRef>::adopt(
+        IORegistryEntryCreateCFProperty(options, key.get(), kCFAllocatorDefault, kNilOptions));
+    IOObjectRelease(options);
+    if (!property) {
+        return std::nullopt;
+    }
+    // Variables are data; a few system ones are strings.
+    if (CFGetTypeID(property.get()) == CFDataGetTypeID()) {
+        const auto data = static_cast<CFDataRef>(property.get());
+        const auto* bytes = reinterpret_cast<const char*>(CFDataGetBytePtr(data));
+        return std::string(bytes, bytes + CFDataGetLength(data));
+    }
+    if (CFGetTypeID(property.get()) == CFStringGetTypeID()) {
+        return utf8String(static_cast<CFStringRef>(property.get()));
+    }
+    return std::nullopt;
+}
+
+}  // namespace quorvane

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+namespace quorvane {
+
+// The Mac's firmware variables (NVRAM), read as any user may. Changing them needs an
+// administrator, so writes go through the system's authorisation prompt as a program run
+// (see AdministratorCommand), not through this port.
+class FirmwareVariables {
+public:
+    virtual ~FirmwareVariables() = default;
+
+    // The variable's raw bytes; nothing when it is not set.
+    virtual std::optional<std::string> value(const std::string& name) = 0;
+};
+
+}  // namespace quorvane
