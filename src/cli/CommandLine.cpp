@@ -29,12 +29,15 @@
 #include "portable/NoChildProcesses.hpp"
 #include "portable/PortableAccessibility.hpp"
 #include "portable/PortableAudioHardware.hpp"
+#include "portable/PortableCalendarEvents.hpp"
 #include "portable/PortableDateFormatting.hpp"
 #include "portable/PortableDisplayConfiguration.hpp"
+#include "portable/PortableDisplayControl.hpp"
 #include "portable/PortableEventMonitors.hpp"
 #include "portable/PortableEventSystem.hpp"
 #include "portable/PortableHIDEventServices.hpp"
 #include "portable/PortableHashing.hpp"
+#include "portable/PortableHostStatistics.hpp"
 #include "portable/PortableHotKeySystem.hpp"
 #include "portable/PortableKeyboardLayout.hpp"
 #include "portable/PortableMenuBar.hpp"
@@ -44,6 +47,7 @@
 #include "portable/PortableScreens.hpp"
 #include "portable/PortableSystemLog.hpp"
 #include "portable/PortableThumbnails.hpp"
+#include "portable/PortableUserCalendar.hpp"
 #include "portable/PortableWindowList.hpp"
 #include "portable/PortableWorkspace.hpp"
 #include "portable/SteadyScheduler.hpp"
@@ -107,6 +111,10 @@ struct Session {
     PortableDisplayConfiguration displayConfiguration;
     PortableSystemLog systemLog;
     PortablePowerManagement power;
+    PortableHostStatistics hostStatistics;
+    PortableUserCalendar userCalendar;
+    PortableCalendarEvents calendarEvents;
+    PortableDisplayControl displayControl;
     std::unique_ptr<PermissionCenter> permissions;
     std::unique_ptr<ToolRegistry> registry;
 };
@@ -271,7 +279,11 @@ private:
                           session_.dateFormatting,
                           session_.displayConfiguration,
                           session_.systemLog,
-                          session_.power};
+                          session_.power,
+                          session_.hostStatistics,
+                          session_.userCalendar,
+                          session_.calendarEvents,
+                          session_.displayControl};
         session_.platform.emplace(platform);
         session_.permissions = std::make_unique<PermissionCenter>(
             session_.probe, session_.scheduler, session_.workspace);

@@ -34,6 +34,10 @@
 #include "mac/MacDateFormatting.hpp"
 #include "mac/MacHashing.hpp"
 #include "mac/MacPowerManagement.hpp"
+#include "mac/MacHostStatistics.hpp"
+#include "mac/MacUserCalendar.hpp"
+#include "mac/MacCalendarEvents.hpp"
+#include "mac/MacDisplayControl.hpp"
 #include "mac/MacThumbnails.hpp"
 #include "mac/MacDisplayConfiguration.hpp"
 #include "mac/MacSystemLog.hpp"
@@ -71,13 +75,18 @@ struct AppState {
     MacDisplayConfiguration displayConfiguration;
     MacSystemLog systemLog;
     MacPowerManagement power;
+    MacHostStatistics hostStatistics;
+    MacUserCalendar userCalendar;
+    MacCalendarEvents calendarEvents;
+    MacDisplayControl displayControl;
     Platform platform{preferences,       scheduler,      permissionProbe,  workspace,
                       notifications,     events,         hotKeys,          accessibility,
                       eventMonitors,     screens,        menuBar,          audioHardware,
                       processFacts,      input,          keyboardLayout,   windowList,
                       preferenceDomains, childProcesses, hidEventServices, pasteboard,
                       thumbnails,        hashing,        dateFormatting,   displayConfiguration,
-                      systemLog,         power};
+                      systemLog,         power,          hostStatistics,   userCalendar,
+                      calendarEvents,    displayControl};
     MacAppWindows windows;
     MacAppInstance instance;
     MacLoginItem loginItem;

@@ -34,4 +34,6 @@
 
 // unconfirmed: check on a Mac first (the umbrella name; only SMAppService.h itself was read).
 #import <ServiceManagement/ServiceManagement.h>
+// The menu-bar calendar's events.
+#import <EventKit/EventKit.h>
 // clang-format on

@@ -28,6 +28,10 @@ class DisplayConfiguration;
 class SystemLog;
 class PowerManagement;
 struct InputServices;
+class HostStatistics;
+class UserCalendar;
+class CalendarEvents;
+class DisplayControl;
 
 // Every port, handed to the registry and the tools at construction. The app fills it with the
 // macOS implementations, the command line with the portable ones, tests with fakes.
@@ -61,6 +65,10 @@ struct Platform {
     DisplayConfiguration& displayConfiguration;
     SystemLog& systemLog;
     PowerManagement& power;
+    HostStatistics& hostStatistics;
+    UserCalendar& userCalendar;
+    CalendarEvents& calendarEvents;
+    DisplayControl& displayControl;
 };
 
 }  // namespace quorvane

@@ -7,12 +7,15 @@
 #include "portable/PortableHashing.hpp"
 #include "support/FakeAccessibility.hpp"
 #include "support/FakeAudioHardware.hpp"
+#include "support/FakeCalendarEvents.hpp"
 #include "support/FakeChildProcesses.hpp"
 #include "support/FakeDateFormatting.hpp"
 #include "support/FakeDisplayConfiguration.hpp"
+#include "support/FakeDisplayControl.hpp"
 #include "support/FakeEventMonitors.hpp"
 #include "support/FakeEventSystem.hpp"
 #include "support/FakeHIDEventServices.hpp"
+#include "support/FakeHostStatistics.hpp"
 #include "support/FakeHotKeySystem.hpp"
 #include "support/FakeKeyboardLayout.hpp"
 #include "support/FakeMenuBar.hpp"
@@ -24,6 +27,7 @@
 #include "support/FakeScreens.hpp"
 #include "support/FakeSystemLog.hpp"
 #include "support/FakeThumbnails.hpp"
+#include "support/FakeUserCalendar.hpp"
 #include "support/FakeWindowList.hpp"
 #include "support/FakeWorkspace.hpp"
 #include "support/ManualScheduler.hpp"
@@ -60,6 +64,10 @@ struct FakePlatform {
     FakeDisplayConfiguration displayConfiguration;
     FakeSystemLog systemLog;
     FakePowerManagement power;
+    FakeHostStatistics hostStatistics;
+    FakeUserCalendar userCalendar;
+    FakeCalendarEvents calendarEvents;
+    FakeDisplayControl displayControl;
 
     Platform platform() {
         return {preferences,       scheduler,      permissionProbe,  workspace,
@@ -68,7 +76,8 @@ struct FakePlatform {
                 processFacts,      input,          keyboardLayout,   windowList,
                 preferenceDomains, childProcesses, hidEventServices, pasteboard,
                 thumbnails,        hashing,        dateFormatting,   displayConfiguration,
-                systemLog,         power};
+                systemLog,         power,          hostStatistics,   userCalendar,
+                calendarEvents,    displayControl};
     }
 };
 

@@ -1,9 +1,13 @@
 #include "tools/system/SystemTools.hpp"
 
+#include "tools/system/DisplayBrightnessTool.hpp"
 #include "tools/system/FinderCutTool.hpp"
 #include "tools/system/FitMoreMenuBarIconsTool.hpp"
+#include "tools/system/HideMenuBarIconsTool.hpp"
 #include "tools/system/KeepAwakeTool.hpp"
 #include "tools/system/LockScreenTool.hpp"
+#include "tools/system/MenuBarCalendarTool.hpp"
+#include "tools/system/MenuBarStatsTool.hpp"
 #include "tools/system/PreferenceFlipTool.hpp"
 #include "tools/system/PresentationModeTool.hpp"
 #include "tools/system/ScreenshotSettingsTool.hpp"
@@ -25,6 +29,10 @@ const ToolFactories& systemTools() {
         {"lock-screen", &buildTool<LockScreenTool>},
         {"presentation-mode", &buildTool<PresentationModeTool>},
         {"finder-cut", &buildTool<FinderCutTool>},
+        {"menu-bar-stats", &buildTool<MenuBarStatsTool>},
+        {"menu-bar-calendar", &buildTool<MenuBarCalendarTool>},
+        {"display-brightness", &buildTool<DisplayBrightnessTool>},
+        {"hide-menu-bar-icons", &buildTool<HideMenuBarIconsTool>},
     };
     return factories;
 }
