@@ -37,9 +37,11 @@
 #include "portable/NoTextRecognition.hpp"
 #include "portable/PortableAccessibility.hpp"
 #include "portable/PortableAudioHardware.hpp"
+#include "portable/PortableCalendarEvents.hpp"
 #include "portable/PortableDateFormatting.hpp"
 #include "portable/PortableDefaultApplications.hpp"
 #include "portable/PortableDisplayConfiguration.hpp"
+#include "portable/PortableDisplayControl.hpp"
 #include "portable/PortableEventMonitors.hpp"
 #include "portable/PortableEventSystem.hpp"
 #include "portable/PortableFileIcons.hpp"
@@ -47,6 +49,7 @@
 #include "portable/PortableFirmwareVariables.hpp"
 #include "portable/PortableHIDEventServices.hpp"
 #include "portable/PortableHashing.hpp"
+#include "portable/PortableHostStatistics.hpp"
 #include "portable/PortableHotKeySystem.hpp"
 #include "portable/PortableKeyboardLayout.hpp"
 #include "portable/PortableMenuBar.hpp"
@@ -56,6 +59,7 @@
 #include "portable/PortableScreens.hpp"
 #include "portable/PortableSystemLog.hpp"
 #include "portable/PortableThumbnails.hpp"
+#include "portable/PortableUserCalendar.hpp"
 #include "portable/PortableWindowList.hpp"
 #include "portable/PortableWorkspace.hpp"
 #include "portable/PosixFileSystem.hpp"
@@ -130,6 +134,10 @@ struct Session {
     PortableFirmwareVariables firmwareVariables;
     PortableFileIcons fileIcons;
     PortableDefaultApplications defaultApplications;
+    PortableHostStatistics hostStatistics;
+    PortableUserCalendar userCalendar;
+    PortableCalendarEvents calendarEvents;
+    PortableDisplayControl displayControl;
     std::unique_ptr<PermissionCenter> permissions;
     std::unique_ptr<ToolRegistry> registry;
 };
@@ -338,7 +346,11 @@ private:
                           session_.colorSampler,
                           session_.firmwareVariables,
                           session_.fileIcons,
-                          session_.defaultApplications};
+                          session_.defaultApplications,
+                          session_.hostStatistics,
+                          session_.userCalendar,
+                          session_.calendarEvents,
+                          session_.displayControl};
         session_.platform.emplace(platform);
         session_.permissions = std::make_unique<PermissionCenter>(
             session_.probe, session_.scheduler, session_.workspace);

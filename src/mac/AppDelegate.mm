@@ -34,6 +34,10 @@
 #include "mac/MacDateFormatting.hpp"
 #include "mac/MacHashing.hpp"
 #include "mac/MacPowerManagement.hpp"
+#include "mac/MacHostStatistics.hpp"
+#include "mac/MacUserCalendar.hpp"
+#include "mac/MacCalendarEvents.hpp"
+#include "mac/MacDisplayControl.hpp"
 #include "mac/MacThumbnails.hpp"
 #include "mac/MacDisplayConfiguration.hpp"
 #include "mac/MacSystemLog.hpp"
@@ -92,6 +96,11 @@ struct AppState {
     MacFirmwareVariables firmwareVariables;
     MacFileIcons fileIcons;
     MacDefaultApplications defaultApplications;
+    MacHostStatistics hostStatistics;
+    MacUserCalendar userCalendar;
+    MacCalendarEvents calendarEvents;
+    MacDisplayControl displayControl;
+
     Platform platform{preferences,
                       scheduler,
                       permissionProbe,
@@ -126,7 +135,11 @@ struct AppState {
                       colorSampler,
                       firmwareVariables,
                       fileIcons,
-                      defaultApplications};
+                      defaultApplications,
+                      hostStatistics,
+                      userCalendar,
+                      calendarEvents,
+                      displayControl};
     MacAppWindows windows;
     MacAppInstance instance;
     MacLoginItem loginItem;

@@ -42,4 +42,6 @@
 #include <ImageIO/CGImageDestination.h>
 #import <ScreenCaptureKit/ScreenCaptureKit.h>
 #import <Vision/Vision.h>
+// The menu-bar calendar's events.
+#import <EventKit/EventKit.h>
 // clang-format on

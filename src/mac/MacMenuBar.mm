@@ -66,6 +66,40 @@ public:
                      }];
     }
 
+    void setTitle(const std::string& title) override {
+        // unconfirmed: check on a Mac first (-[NSButton setTitle:] on the status item's
+        // button, beside its image, is not in the fact sheet).
+        item_.button.title = text(title);
+    }
+
+    void setLength(double length) override { item_.length = length; }
+
+    void setAutosaveName(const std::string& name) override {
+        // Apple: "Applications with multiple status items should set an autosave name after
+        // creating each item"; the name also keeps where the user dragged it with ⌘.
+        item_.autosaveName = text(name);
+    }
+
+    bool isOnScreen() const override {
+        // unconfirmed: check on a Mac first (whether the status bar window's occlusion
+        // state turns invisible for an item pushed behind the notch or off the menu bar's
+        // end, as it does when a full-screen app hides the menu bar). NSStatusItem's
+        // `visible` is false once the user has removed the item.
+        NSWindow* window = item_.button.window;
+        return item_.visible && window &&
+               (window.occlusionState & NSWindowOcclusionStateVisible) != 0;
+    }
+
+    Subscription observeOnScreen(std::function<void()> handler) override {
+        NSWindow* window = item_.button.window;
+        if (!window) {
+            return {};
+        }
+        return observeOnMainQueue([NSNotificationCenter defaultCenter],
+                                  NSWindowDidChangeOcclusionStateNotification, window,
+                                  [handler = std::move(handler)](NSNotification*) { handler(); });
+    }
+
     NSStatusBarButton* button() const { return item_.button; }
 
 private:

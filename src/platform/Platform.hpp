@@ -37,6 +37,10 @@ class ColorSampler;
 class FirmwareVariables;
 class FileIcons;
 class DefaultApplications;
+class HostStatistics;
+class UserCalendar;
+class CalendarEvents;
+class DisplayControl;
 
 // Every port, handed to the registry and the tools at construction. The app fills it with the
 // macOS implementations, the command line with the portable ones, tests with fakes.
@@ -82,6 +86,10 @@ struct Platform {
     FirmwareVariables& firmwareVariables;
     FileIcons& fileIcons;
     DefaultApplications& defaultApplications;
+    HostStatistics& hostStatistics;
+    UserCalendar& userCalendar;
+    CalendarEvents& calendarEvents;
+    DisplayControl& displayControl;
 };
 
 }  // namespace quorvane

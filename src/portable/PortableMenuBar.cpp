@@ -9,6 +9,11 @@ public:
     bool hasButton() const override { return false; }
     void setImage(const std::string&, const std::string&) override {}
     void setAction(std::function<void()>) override {}
+    void setTitle(const std::string&) override {}
+    void setLength(double) override {}
+    void setAutosaveName(const std::string&) override {}
+    bool isOnScreen() const override { return false; }
+    Subscription observeOnScreen(std::function<void()>) override { return {}; }
 };
 
 class AbsentPopover : public Popover {

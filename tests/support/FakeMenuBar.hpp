@@ -30,11 +30,28 @@ public:
             image = systemImage;
         }
         void setAction(std::function<void()> newAction) override { action = std::move(newAction); }
+        void setTitle(const std::string& newTitle) override { title = newTitle; }
+        void setLength(double newLength) override { length = newLength; }
+        void setAutosaveName(const std::string& name) override { autosaveName = name; }
+        bool isOnScreen() const override { return onScreen; }
+        Subscription observeOnScreen(std::function<void()> handler) override {
+            return onScreenChanged.add(std::move(handler));
+        }
+        // The item scrolled off, was covered or came back.
+        void setOnScreen(bool now) {
+            onScreen = now;
+            onScreenChanged.call();
+        }
 
         FakeMenuBar& bar;
         bool button;
         std::string image;
         std::function<void()> action;
+        std::string title;
+        double length = kVariableLength;
+        std::string autosaveName;
+        bool onScreen = true;
+        HandlerList<> onScreenChanged;
     };
 
     struct Panel : Popover {
@@ -68,9 +85,10 @@ public:
 
     explicit FakeMenuBar(std::vector<std::string>& journal) : calls(journal) {}
 
-    std::unique_ptr<StatusItem> makeStatusItem(double) override {
+    std::unique_ptr<StatusItem> makeStatusItem(double length) override {
         calls.push_back("item");
         auto item = std::make_unique<Item>(*this, itemsHaveButtons);
+        item->length = length;
         items.push_back(item.get());
         return item;
     }

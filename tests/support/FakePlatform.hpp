@@ -8,11 +8,13 @@
 #include "portable/SystemArchives.hpp"
 #include "support/FakeAccessibility.hpp"
 #include "support/FakeAudioHardware.hpp"
+#include "support/FakeCalendarEvents.hpp"
 #include "support/FakeChildProcesses.hpp"
 #include "support/FakeColorSampler.hpp"
 #include "support/FakeDateFormatting.hpp"
 #include "support/FakeDefaultApplications.hpp"
 #include "support/FakeDisplayConfiguration.hpp"
+#include "support/FakeDisplayControl.hpp"
 #include "support/FakeEventMonitors.hpp"
 #include "support/FakeEventSystem.hpp"
 #include "support/FakeFileIcons.hpp"
@@ -20,6 +22,7 @@
 #include "support/FakeFinderExtensionChannel.hpp"
 #include "support/FakeFirmwareVariables.hpp"
 #include "support/FakeHIDEventServices.hpp"
+#include "support/FakeHostStatistics.hpp"
 #include "support/FakeHotKeySystem.hpp"
 #include "support/FakeKeyboardLayout.hpp"
 #include "support/FakeMenuBar.hpp"
@@ -33,6 +36,7 @@
 #include "support/FakeSystemLog.hpp"
 #include "support/FakeTextRecognition.hpp"
 #include "support/FakeThumbnails.hpp"
+#include "support/FakeUserCalendar.hpp"
 #include "support/FakeWindowList.hpp"
 #include "support/FakeWorkspace.hpp"
 #include "support/ManualScheduler.hpp"
@@ -79,6 +83,10 @@ struct FakePlatform {
     FakeFirmwareVariables firmwareVariables;
     FakeFileIcons fileIcons;
     FakeDefaultApplications defaultApplications;
+    FakeHostStatistics hostStatistics;
+    FakeUserCalendar userCalendar;
+    FakeCalendarEvents calendarEvents;
+    FakeDisplayControl displayControl;
 
     Platform platform() {
         return {preferences,
@@ -115,7 +123,11 @@ struct FakePlatform {
                 colorSampler,
                 firmwareVariables,
                 fileIcons,
-                defaultApplications};
+                defaultApplications,
+                hostStatistics,
+                userCalendar,
+                calendarEvents,
+                displayControl};
     }
 };
 

@@ -17,6 +17,7 @@
 #import <AppKit/NSPasteboardItem.h>
 #import <AppKit/NSPopover.h>
 #import <AppKit/NSRunningApplication.h>
+#import <AppKit/NSScreen.h>
 #import <AppKit/NSSlider.h>
 #import <AppKit/NSStatusItem.h>
 #import <AppKit/NSStatusBarButton.h>
@@ -381,6 +382,25 @@ APPKIT_EXPORT NSPasteboardReadingOptionKey const NSPasteboardURLReadingFileURLsO
                drawingHandler:(BOOL (^)(NSRect dstRect))drawingHandler;
 @end
 static const NSCompositingOperation NSCompositingOperationSourceAtop = 5;
+// Menu-bar tools: status items' autosave names, windows' occlusion, screens' names and the
+// calendar's day change; looked up: NSStatusItem.autosaveName, NSWindow.occlusionState,
+// NSWindowDidChangeOcclusionStateNotification, NSScreen.localizedName (10.15),
+// NSCalendarDayChangedNotification (10.9).
+typedef NSString* NSStatusItemAutosaveName;
+@interface NSStatusItem (QVMenuBarAdditions)
+@property(null_resettable, copy) NSStatusItemAutosaveName autosaveName;
+@end
+typedef NS_OPTIONS(NSUInteger, NSWindowOcclusionState) {
+    NSWindowOcclusionStateVisible = 1UL << 1,
+};
+@interface NSWindow (QVMenuBarAdditions)
+@property(readonly) NSWindowOcclusionState occlusionState;
+@end
+APPKIT_EXPORT NSNotificationName const NSWindowDidChangeOcclusionStateNotification;
+@interface NSScreen (QVMenuBarAdditions)
+@property(readonly, copy) NSString* localizedName;
+@end
+FOUNDATION_EXPORT NSNotificationName const NSCalendarDayChangedNotification;
 
 NS_ASSUME_NONNULL_END
 #endif

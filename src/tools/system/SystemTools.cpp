@@ -4,13 +4,17 @@
 #include "tools/system/ArchivesTool.hpp"
 #include "tools/system/ColorPickerTool.hpp"
 #include "tools/system/DefaultAppsTool.hpp"
+#include "tools/system/DisplayBrightnessTool.hpp"
 #include "tools/system/FinderCutTool.hpp"
 #include "tools/system/FinderNewFileTool.hpp"
 #include "tools/system/FitMoreMenuBarIconsTool.hpp"
 #include "tools/system/FolderIconsTool.hpp"
 #include "tools/system/FreeUpSpaceTool.hpp"
+#include "tools/system/HideMenuBarIconsTool.hpp"
 #include "tools/system/KeepAwakeTool.hpp"
 #include "tools/system/LockScreenTool.hpp"
+#include "tools/system/MenuBarCalendarTool.hpp"
+#include "tools/system/MenuBarStatsTool.hpp"
 #include "tools/system/PreferenceFlipTool.hpp"
 #include "tools/system/PresentationModeTool.hpp"
 #include "tools/system/ScreenRecorderTool.hpp"
@@ -47,6 +51,10 @@ const ToolFactories& systemTools() {
         {"color-picker", &buildTool<ColorPickerTool>},
         {"folder-icons", &buildTool<FolderIconsTool>},
         {"default-apps", &buildTool<DefaultAppsTool>},
+        {"menu-bar-stats", &buildTool<MenuBarStatsTool>},
+        {"menu-bar-calendar", &buildTool<MenuBarCalendarTool>},
+        {"display-brightness", &buildTool<DisplayBrightnessTool>},
+        {"hide-menu-bar-icons", &buildTool<HideMenuBarIconsTool>},
     };
     return factories;
 }

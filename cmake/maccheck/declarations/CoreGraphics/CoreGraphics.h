@@ -6,6 +6,7 @@
 // CGEventCreateScrollWheelEvent2, CGWindowListCopyWindowInfo.
 #include <CoreFoundation/CoreFoundation.h>
 #include <QVGeometry.h>
+#include <mach/mach.h>
 
 #ifdef __cplusplus
 extern "C" {
@@ -231,6 +232,23 @@ CGRect CGDisplayBounds(CGDirectDisplayID display);
 // ColorSync's, reached through ApplicationServices on a Mac; looked up:
 // CGDisplayCreateUUIDFromDisplayID(uint32_t) -> CFUUIDRef, Create rule (macOS 10.13+).
 CFUUIDRef _Nullable CGDisplayCreateUUIDFromDisplayID(uint32_t displayID);
+// Quartz Display Services' built-in test and gamma tables; looked up: CGDisplayIsBuiltin,
+// CGDisplayGammaTableCapacity, CGGetDisplayTransferByTable, CGSetDisplayTransferByTable,
+// CGDisplayRestoreColorSyncSettings, CGGammaValue (float), CGError (int32_t).
+typedef int32_t CGError;
+typedef float CGGammaValue;
+boolean_t CGDisplayIsBuiltin(CGDirectDisplayID display);
+uint32_t CGDisplayGammaTableCapacity(CGDirectDisplayID display);
+CGError CGGetDisplayTransferByTable(CGDirectDisplayID display, uint32_t capacity,
+                                    CGGammaValue* _Nullable redTable,
+                                    CGGammaValue* _Nullable greenTable,
+                                    CGGammaValue* _Nullable blueTable,
+                                    uint32_t* _Nullable sampleCount);
+CGError CGSetDisplayTransferByTable(CGDirectDisplayID display, uint32_t tableSize,
+                                    const CGGammaValue* _Nullable redTable,
+                                    const CGGammaValue* _Nullable greenTable,
+                                    const CGGammaValue* _Nullable blueTable);
+void CGDisplayRestoreColorSyncSettings(void);
 
 void CGColorRelease(CGColorRef _Nullable color);
 void CGImageRelease(CGImageRef _Nullable image);

@@ -1,0 +1,90 @@
+#include "mac/MacUserCalendar.hpp"
+
+#include <memory>
+#include <utility>
+#include <vector>
+
+#include "mac/MacFrameworks.h"
+#include "mac/MacObservation.hpp"
+#include "mac/MacStrings.hpp"
+
+// unconfirmed: check on a Mac first. None of NSCalendar, NSDateComponents, NSDateFormatter's
+// symbols or the notifications below is in the shared fact sheet; written from Apple's
+// reference: +[NSCalendar currentCalendar] follows the user's region settings (first weekday
+// 1 = Sunday); NSCalendarDayChangedNotification is posted when the calendar day changes (on
+// an arbitrary thread, hence the main-queue observation); NSSystemTimeZoneDidChangeNotification
+// and NSCurrentLocaleDidChangeNotification cover a move and a change of region.
+
+namespace quorvane {
+
+namespace {
+
+std::vector<std::string> strings(NSArray* symbols) {
+    std::vector<std::string> result;
+    for (id symbol in symbols) {
+        if ([symbol isKindOfClass:[NSString class]]) {
+            result.push_back(utf8String(static_cast<NSString*>(symbol)));
+        }
+    }
+    return result;
+}
+
+NSDateFormatter* currentFormatter() {
+    NSDateFormatter* formatter = [[NSDateFormatter alloc] init];
+    formatter.locale = [NSLocale autoupdatingCurrentLocale];
+    return formatter;
+}
+
+}  // namespace
+
+int MacUserCalendar::firstWeekday() {
+    NSCalendar* calendar = [NSCalendar currentCalendar];
+    return static_cast<int>(calendar.firstWeekday);
+}
+
+UserCalendar::Components MacUserCalendar::components(double date) {
+    NSCalendar* calendar = [NSCalendar currentCalendar];
+    NSDateComponents* parts =
+        [calendar components:NSCalendarUnitYear | NSCalendarUnitMonth | NSCalendarUnitDay
+                    fromDate:[NSDate dateWithTimeIntervalSinceReferenceDate:date]];
+    return {static_cast<int>(parts.year), static_cast<int>(parts.month),
+            static_cast<int>(parts.day)};
+}
+
+double MacUserCalendar::startOfDay(const Components& day) {
+    NSDateComponents* parts = [[NSDateComponents alloc] init];
+    parts.year = day.year;
+    parts.month = day.month;
+    parts.day = day.day;
+    // Hours, minutes and seconds left unset are zero: the day's first moment (in the rare
+    // zones whose clocks skip midnight, the calendar moves it to the first that exists).
+    NSCalendar* calendar = [NSCalendar currentCalendar];
+    NSDate* start = [calendar dateFromComponents:parts];
+    return start ? start.timeIntervalSinceReferenceDate : 0;
+}
+
+std::vector<std::string> MacUserCalendar::monthSymbols() {
+    return strings(currentFormatter().standaloneMonthSymbols);
+}
+
+std::vector<std::string> MacUserCalendar::weekdaySymbols() {
+    return strings(currentFormatter().shortStandaloneWeekdaySymbols);
+}
+
+Subscription MacUserCalendar::observeChanges(std::function<void()> handler) {
+    auto shared = std::make_shared<std::function<void()>>(std::move(handler));
+    NSNotificationCenter* center = [NSNotificationCenter defaultCenter];
+    const auto call = [shared](NSNotification*) { (*shared)(); };
+    auto day = observeOnMainQueue(center, NSCalendarDayChangedNotification, nil, call);
+    auto zone = observeOnMainQueue(center, NSSystemTimeZoneDidChangeNotification, nil, call);
+    auto region = observeOnMainQueue(center, NSCurrentLocaleDidChangeNotification, nil, call);
+    auto clock = observeOnMainQueue(center, NSSystemClockDidChangeNotification, nil, call);
+    auto all = std::make_shared<std::vector<Subscription>>();
+    all->push_back(std::move(day));
+    all->push_back(std::move(zone));
+    all->push_back(std::move(region));
+    all->push_back(std::move(clock));
+    return Subscription([all] { all->clear(); });
+}
+
+}  // namespace quorvane
