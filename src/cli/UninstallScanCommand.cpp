@@ -1,5 +1,6 @@
 #include "cli/UninstallScanCommand.hpp"
 
+#include <filesystem>
 #include <ostream>
 
 #include "platform/FileSystem.hpp"
@@ -14,7 +15,13 @@ bool UninstallScanCommand::run(const std::vector<std::string>& operands, FileSys
         error = "usage: quorvane uninstall-scan APP (an app's path or bundle identifier)";
         return false;
     }
-    const auto app = LeftoverScan::identify(facts, operands[0], error);
+    std::string named = operands[0];
+    // "Maker.app" in the current folder is a path, though it has no slash.
+    if (named.find('/') == std::string::npos && named.ends_with(".app") &&
+        fileSystem.status(named)) {
+        named = std::filesystem::absolute(named).string();
+    }
+    const auto app = LeftoverScan::identify(facts, named, error);
     if (!app) {
         return false;
     }

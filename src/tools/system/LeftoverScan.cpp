@@ -18,7 +18,11 @@ std::optional<AppIdentity> LeftoverScan::identify(ProcessFacts& facts, const std
     while (path.size() > 1 && path.ends_with("/")) {
         path.pop_back();
     }
-    if (path.ends_with(".app")) {
+    if (path.find('/') != std::string::npos) {
+        if (!path.ends_with(".app")) {
+            error = path + " is not an app (…/Name.app)";
+            return std::nullopt;
+        }
         const auto id = facts.bundleIdentifier(path);
         if (!id || id->empty()) {
             error = "cannot read the bundle identifier of " + path;
@@ -26,7 +30,8 @@ std::optional<AppIdentity> LeftoverScan::identify(ProcessFacts& facts, const std
         }
         return AppIdentity{*id, facts.displayName(path), path};
     }
-    if (app.empty() || app.find('/') != std::string::npos || app.find('.') == std::string::npos) {
+    // An identifier such as "com.maker.app" may itself end in ".app": only a slash makes a path.
+    if (app.find('.') == std::string::npos) {
         error = "\"" + app + "\" is neither an app (…/Name.app) nor a bundle identifier";
         return std::nullopt;
     }

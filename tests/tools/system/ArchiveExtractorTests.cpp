@@ -49,9 +49,9 @@ TEST(ArchivePathsTest, NamesTheFolderBesideAfterTheArchiveWithoutTakingAName) {
 
 struct Member {
     std::string path;
-    std::string content;
+    std::string content = {};
     ArchiveEntry::Type type = ArchiveEntry::Type::file;
-    std::string linkTarget;
+    std::string linkTarget = {};
 };
 
 // A tar archive written with the library's own write API.

@@ -25,14 +25,15 @@ struct LeftoverScanTest : ::testing::Test {
         fs::create_directories(path.parent_path());
         TemporaryDirectory::write(path, std::string(bytes, 'x'));
     }
-    std::string library(const std::string& inside) const {
-        return (home.path() / "Library" / inside).string();
+    std::string library(const std::string& inside = {}) const {
+        return inside.empty() ? (home.path() / "Library").string()
+                              : (home.path() / "Library" / inside).string();
     }
     std::vector<std::string> paths(const AppIdentity& app, std::vector<AppIdentity> others = {}) {
         std::vector<std::string> found;
         const LeftoverMatcher matcher(app, std::move(others));
         for (const auto& item : LeftoverScan::find(
-                 files, matcher, {library(""), (computer.path() / "Library").string()})) {
+                 files, matcher, {library(), (computer.path() / "Library").string()})) {
             found.push_back(item.path);
         }
         return found;
@@ -103,7 +104,7 @@ TEST_F(LeftoverScanTest, SizesCountHardLinksOnceAndAFolderReplacedByALinkIsNotSe
     fs::create_directory_symlink(elsewhere.path(), library("Logs"));
 
     const LeftoverMatcher matcher({"com.maker.app", "Maker", {}}, {});
-    const auto items = LeftoverScan::find(files, matcher, {library("")});
+    const auto items = LeftoverScan::find(files, matcher, {library()});
     ASSERT_EQ(items.size(), 2u);
     EXPECT_EQ(items[0].path, library("Caches/com.maker.app"));
     EXPECT_EQ(items[0].bytes, 300u);
@@ -125,6 +126,7 @@ TEST(LeftoverScanIdentify, NamesAnAppByItsBundleOrItsIdentifier) {
     EXPECT_FALSE(LeftoverScan::identify(facts, "/Applications/Other.app", error));
     EXPECT_NE(error.find("bundle identifier"), std::string::npos);
     EXPECT_FALSE(LeftoverScan::identify(facts, "maker", error));
+    EXPECT_FALSE(LeftoverScan::identify(facts, "/Applications/Maker", error));
 }
 
 }  // namespace

@@ -31,6 +31,7 @@ TEST_F(SpaceScanTest, ListsOnlyTheAllowedFoldersFollowsNoLinkAndCountsHardLinksO
     put(at("Library/Caches/com.maker.app/blob"), 1000);
     fs::create_hard_link(at("Library/Caches/com.maker.app/blob"),
                          at("Library/Caches/com.maker.app/same-blob"));
+    fs::create_directories(at("Library/Logs"));
     fs::create_hard_link(at("Library/Caches/com.maker.app/blob"), at("Library/Logs/blob.log"));
     put(at("Library/Caches/com.apple.Safari/cache.db"), 5000);
     put(at("Library/Caches/com.running.app/cache"), 700);
