@@ -29,10 +29,13 @@
 #include "portable/NoChildProcesses.hpp"
 #include "portable/PortableAccessibility.hpp"
 #include "portable/PortableAudioHardware.hpp"
+#include "portable/PortableChargingHelper.hpp"
 #include "portable/PortableDateFormatting.hpp"
+#include "portable/PortableDiskArbitration.hpp"
 #include "portable/PortableDisplayConfiguration.hpp"
 #include "portable/PortableEventMonitors.hpp"
 #include "portable/PortableEventSystem.hpp"
+#include "portable/PortableHIDBatteries.hpp"
 #include "portable/PortableHIDEventServices.hpp"
 #include "portable/PortableHashing.hpp"
 #include "portable/PortableHotKeySystem.hpp"
@@ -40,6 +43,7 @@
 #include "portable/PortableMenuBar.hpp"
 #include "portable/PortablePermissionProbe.hpp"
 #include "portable/PortablePowerManagement.hpp"
+#include "portable/PortablePowerSources.hpp"
 #include "portable/PortableProcessFacts.hpp"
 #include "portable/PortableScreens.hpp"
 #include "portable/PortableSystemLog.hpp"
@@ -107,6 +111,10 @@ struct Session {
     PortableDisplayConfiguration displayConfiguration;
     PortableSystemLog systemLog;
     PortablePowerManagement power;
+    PortablePowerSources powerSources;
+    PortableChargingHelper chargingHelper;
+    PortableDiskArbitration diskArbitration;
+    PortableHIDBatteries hidBatteries;
     std::unique_ptr<PermissionCenter> permissions;
     std::unique_ptr<ToolRegistry> registry;
 };
@@ -271,7 +279,11 @@ private:
                           session_.dateFormatting,
                           session_.displayConfiguration,
                           session_.systemLog,
-                          session_.power};
+                          session_.power,
+                          session_.powerSources,
+                          session_.chargingHelper,
+                          session_.diskArbitration,
+                          session_.hidBatteries};
         session_.platform.emplace(platform);
         session_.permissions = std::make_unique<PermissionCenter>(
             session_.probe, session_.scheduler, session_.workspace);

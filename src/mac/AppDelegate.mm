@@ -37,6 +37,10 @@
 #include "mac/MacThumbnails.hpp"
 #include "mac/MacDisplayConfiguration.hpp"
 #include "mac/MacSystemLog.hpp"
+#include "mac/MacPowerSources.hpp"
+#include "mac/MacChargingHelper.hpp"
+#include "mac/MacDiskArbitration.hpp"
+#include "mac/MacHIDBatteries.hpp"
 
 namespace quorvane {
 
@@ -71,13 +75,18 @@ struct AppState {
     MacDisplayConfiguration displayConfiguration;
     MacSystemLog systemLog;
     MacPowerManagement power;
+    MacPowerSources powerSources;
+    MacChargingHelper chargingHelper;
+    MacDiskArbitration diskArbitration;
+    MacHIDBatteries hidBatteries;
     Platform platform{preferences,       scheduler,      permissionProbe,  workspace,
                       notifications,     events,         hotKeys,          accessibility,
                       eventMonitors,     screens,        menuBar,          audioHardware,
                       processFacts,      input,          keyboardLayout,   windowList,
                       preferenceDomains, childProcesses, hidEventServices, pasteboard,
                       thumbnails,        hashing,        dateFormatting,   displayConfiguration,
-                      systemLog,         power};
+                      systemLog,         power,          powerSources,     chargingHelper,
+                      diskArbitration,   hidBatteries};
     MacAppWindows windows;
     MacAppInstance instance;
     MacLoginItem loginItem;

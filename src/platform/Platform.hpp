@@ -27,6 +27,10 @@ class DateFormatting;
 class DisplayConfiguration;
 class SystemLog;
 class PowerManagement;
+class PowerSources;
+class ChargingHelper;
+class DiskArbitration;
+class HIDBatteries;
 struct InputServices;
 
 // Every port, handed to the registry and the tools at construction. The app fills it with the
@@ -61,6 +65,10 @@ struct Platform {
     DisplayConfiguration& displayConfiguration;
     SystemLog& systemLog;
     PowerManagement& power;
+    PowerSources& powerSources;
+    ChargingHelper& chargingHelper;
+    DiskArbitration& diskArbitration;
+    HIDBatteries& hidBatteries;
 };
 
 }  // namespace quorvane

@@ -26,6 +26,10 @@
 #include "support/FakeThumbnails.hpp"
 #include "support/FakeWindowList.hpp"
 #include "support/FakeWorkspace.hpp"
+#include "support/FakePowerSources.hpp"
+#include "support/FakeChargingHelper.hpp"
+#include "support/FakeDiskArbitration.hpp"
+#include "support/FakeHIDBatteries.hpp"
 #include "support/ManualScheduler.hpp"
 
 namespace quorvane {
@@ -60,6 +64,10 @@ struct FakePlatform {
     FakeDisplayConfiguration displayConfiguration;
     FakeSystemLog systemLog;
     FakePowerManagement power;
+    FakePowerSources powerSources;
+    FakeChargingHelper chargingHelper;
+    FakeDiskArbitration diskArbitration;
+    FakeHIDBatteries hidBatteries;
 
     Platform platform() {
         return {preferences,       scheduler,      permissionProbe,  workspace,
@@ -68,7 +76,8 @@ struct FakePlatform {
                 processFacts,      input,          keyboardLayout,   windowList,
                 preferenceDomains, childProcesses, hidEventServices, pasteboard,
                 thumbnails,        hashing,        dateFormatting,   displayConfiguration,
-                systemLog,         power};
+                systemLog,         power,          powerSources,     chargingHelper,
+                diskArbitration,   hidBatteries};
     }
 };
 

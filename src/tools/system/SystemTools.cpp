@@ -1,11 +1,15 @@
 #include "tools/system/SystemTools.hpp"
 
+#include "tools/system/BatteryLimitTool.hpp"
+#include "tools/system/DeviceBatteriesTool.hpp"
 #include "tools/system/FinderCutTool.hpp"
 #include "tools/system/FitMoreMenuBarIconsTool.hpp"
 #include "tools/system/KeepAwakeTool.hpp"
 #include "tools/system/LockScreenTool.hpp"
+#include "tools/system/PowerScheduleTool.hpp"
 #include "tools/system/PreferenceFlipTool.hpp"
 #include "tools/system/PresentationModeTool.hpp"
+#include "tools/system/SafeDrivesTool.hpp"
 #include "tools/system/ScreenshotSettingsTool.hpp"
 
 namespace quorvane {
@@ -25,6 +29,10 @@ const ToolFactories& systemTools() {
         {"lock-screen", &buildTool<LockScreenTool>},
         {"presentation-mode", &buildTool<PresentationModeTool>},
         {"finder-cut", &buildTool<FinderCutTool>},
+        {"power-schedule", &buildTool<PowerScheduleTool>},
+        {"battery-limit", &buildTool<BatteryLimitTool>},
+        {"device-batteries", &buildTool<DeviceBatteriesTool>},
+        {"safe-drives", &buildTool<SafeDrivesTool>},
     };
     return factories;
 }
