@@ -18,8 +18,12 @@ SettingsPage BatteryLimitTool::settingsPage() {
                                : "It charges as usual.";
         section.rows.push_back({SettingsRow::Note{state}, {}});
     }
+    // What the helper needs is said whether the tool is on or not; while on, a missing
+    // helper is the tool's error and is shown as such.
     if (lastError_) {
         section.rows.push_back({SettingsRow::Warning{*lastError_}, {}});
+    } else {
+        section.rows.push_back({SettingsRow::Note{helperText()}, {}});
     }
     const auto helper = platform_.chargingHelper.status();
     if (helper == ChargingHelper::Status::notRegistered) {
@@ -27,7 +31,6 @@ SettingsPage BatteryLimitTool::settingsPage() {
             {SettingsRow::Button{"Install Helper…", [this] { installHelper(); }}, {}});
     } else if (helper == ChargingHelper::Status::enabled ||
                helper == ChargingHelper::Status::requiresApproval) {
-        section.rows.push_back({SettingsRow::Note{helperText()}, {}});
         section.rows.push_back({SettingsRow::Button{"Remove Helper", [this] { removeHelper(); },
                                                     SettingsRow::ButtonRole::destructive},
                                 {}});
