@@ -58,6 +58,20 @@ void answered(DADiskRef, DADissenterRef dissenter, void* context) {
     }
 }
 
+// Starts one request on the named disk; the call gets the disk and the context that carries
+// the completion to the answer.
+Subscription request(DASessionRef session, const std::string& bsdName,
+                     DiskArbitration::Completion done, void (*call)(DADiskRef, void*)) {
+    const auto disk = CFRef<DADiskRef>::adopt(
+        session ? DADiskCreateFromBSDName(kCFAllocatorDefault, session, bsdName.c_str()) : nullptr);
+    if (!disk) {
+        return {};
+    }
+    auto completion = std::make_shared<DiskArbitration::Completion>(std::move(done));
+    call(disk.get(), new SharedCompletion(completion));
+    return Subscription([completion] { *completion = nullptr; });
+}
+
 }  // namespace
 
 MacDiskArbitration::MacDiskArbitration() : session_(std::make_unique<Session>()) {
@@ -106,32 +120,18 @@ std::optional<DiskDescription> MacDiskArbitration::describe(const std::string& b
 }
 
 Subscription MacDiskArbitration::unmount(const std::string& bsdName, Completion done) {
-    auto completion = std::make_shared<Completion>(std::move(done));
-    const auto disk = CFRef<DADiskRef>::adopt(
-        session_->session
-            ? DADiskCreateFromBSDName(kCFAllocatorDefault, session_->session.get(), bsdName.c_str())
-            : nullptr);
-    if (!disk) {
-        return {};
-    }
-    DADiskUnmount(disk.get(), kDADiskUnmountOptionDefault, &answered,
-                  new SharedCompletion(completion));
-    return Subscription([completion] { *completion = nullptr; });
+    return request(session_->session.get(), bsdName, std::move(done),
+                   [](DADiskRef disk, void* context) {
+                       DADiskUnmount(disk, kDADiskUnmountOptionDefault, &answered, context);
+                   });
 }
 
 Subscription MacDiskArbitration::mount(const std::string& bsdName, Completion done) {
-    auto completion = std::make_shared<Completion>(std::move(done));
-    const auto disk = CFRef<DADiskRef>::adopt(
-        session_->session
-            ? DADiskCreateFromBSDName(kCFAllocatorDefault, session_->session.get(), bsdName.c_str())
-            : nullptr);
-    if (!disk) {
-        return {};
-    }
-    // No path: the volume goes back where Disk Arbitration mounts it by default.
-    DADiskMount(disk.get(), nullptr, kDADiskMountOptionDefault, &answered,
-                new SharedCompletion(completion));
-    return Subscription([completion] { *completion = nullptr; });
+    return request(session_->session.get(), bsdName, std::move(done),
+                   [](DADiskRef disk, void* context) {
+                       // No path: the volume goes back where Disk Arbitration mounts it by default.
+                       DADiskMount(disk, nullptr, kDADiskMountOptionDefault, &answered, context);
+                   });
 }
 
 }  // namespace quorvane
