@@ -38,8 +38,10 @@
 #include "portable/PortableAccessibility.hpp"
 #include "portable/PortableAudioHardware.hpp"
 #include "portable/PortableCalendarEvents.hpp"
+#include "portable/PortableChargingHelper.hpp"
 #include "portable/PortableDateFormatting.hpp"
 #include "portable/PortableDefaultApplications.hpp"
+#include "portable/PortableDiskArbitration.hpp"
 #include "portable/PortableDisplayConfiguration.hpp"
 #include "portable/PortableDisplayControl.hpp"
 #include "portable/PortableEventMonitors.hpp"
@@ -47,6 +49,7 @@
 #include "portable/PortableFileIcons.hpp"
 #include "portable/PortableFinderExtensionChannel.hpp"
 #include "portable/PortableFirmwareVariables.hpp"
+#include "portable/PortableHIDBatteries.hpp"
 #include "portable/PortableHIDEventServices.hpp"
 #include "portable/PortableHashing.hpp"
 #include "portable/PortableHostStatistics.hpp"
@@ -55,6 +58,7 @@
 #include "portable/PortableMenuBar.hpp"
 #include "portable/PortablePermissionProbe.hpp"
 #include "portable/PortablePowerManagement.hpp"
+#include "portable/PortablePowerSources.hpp"
 #include "portable/PortableProcessFacts.hpp"
 #include "portable/PortableScreens.hpp"
 #include "portable/PortableSystemLog.hpp"
@@ -138,6 +142,10 @@ struct Session {
     PortableUserCalendar userCalendar;
     PortableCalendarEvents calendarEvents;
     PortableDisplayControl displayControl;
+    PortablePowerSources powerSources;
+    PortableChargingHelper chargingHelper;
+    PortableDiskArbitration diskArbitration;
+    PortableHIDBatteries hidBatteries;
     std::unique_ptr<PermissionCenter> permissions;
     std::unique_ptr<ToolRegistry> registry;
 };
@@ -350,7 +358,11 @@ private:
                           session_.hostStatistics,
                           session_.userCalendar,
                           session_.calendarEvents,
-                          session_.displayControl};
+                          session_.displayControl,
+                          session_.powerSources,
+                          session_.chargingHelper,
+                          session_.diskArbitration,
+                          session_.hidBatteries};
         session_.platform.emplace(platform);
         session_.permissions = std::make_unique<PermissionCenter>(
             session_.probe, session_.scheduler, session_.workspace);

@@ -52,6 +52,10 @@
 #include "mac/MacFirmwareVariables.hpp"
 #include "mac/MacFileIcons.hpp"
 #include "mac/MacDefaultApplications.hpp"
+#include "mac/MacPowerSources.hpp"
+#include "mac/MacChargingHelper.hpp"
+#include "mac/MacDiskArbitration.hpp"
+#include "mac/MacHIDBatteries.hpp"
 
 namespace quorvane {
 
@@ -100,6 +104,10 @@ struct AppState {
     MacUserCalendar userCalendar;
     MacCalendarEvents calendarEvents;
     MacDisplayControl displayControl;
+    MacPowerSources powerSources;
+    MacChargingHelper chargingHelper;
+    MacDiskArbitration diskArbitration;
+    MacHIDBatteries hidBatteries;
 
     Platform platform{preferences,
                       scheduler,
@@ -139,7 +147,11 @@ struct AppState {
                       hostStatistics,
                       userCalendar,
                       calendarEvents,
-                      displayControl};
+                      displayControl,
+                      powerSources,
+                      chargingHelper,
+                      diskArbitration,
+                      hidBatteries};
     MacAppWindows windows;
     MacAppInstance instance;
     MacLoginItem loginItem;

@@ -22,6 +22,10 @@
 #include <CoreGraphics/CoreGraphics.h>
 #include <IOKit/IOKitLib.h>
 #include <IOKit/pwr_mgt/IOPMLib.h>
+#include <IOKit/IOMessage.h>
+#include <IOKit/ps/IOPowerSources.h>
+#include <IOKit/ps/IOPSKeys.h>
+#include <DiskArbitration/DiskArbitration.h>
 // AppKit only names CALayer; its properties (views' corner radius and colours) are QuartzCore's.
 #import <QuartzCore/QuartzCore.h>
 // The umbrella leaves out the process-tap headers, which are Objective-C only.

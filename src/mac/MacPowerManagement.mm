@@ -2,10 +2,97 @@
 
 #include <dlfcn.h>
 
+#include <cassert>
+#include <memory>
+
 #include "mac/MacFrameworks.h"
+#include "mac/CFRef.hpp"
 #include "mac/MacStrings.hpp"
 
 namespace quorvane {
+
+namespace {
+
+// One registration with the root power domain: what IORegisterForSystemPower handed back,
+// and the handler its callback reaches through the context pointer.
+struct SystemPowerRegistration {
+    PowerManagement::SystemPowerHandler handler;
+    io_connect_t rootPort = 0;
+    IONotificationPortRef notifyPort = nullptr;
+    io_object_t notifier = 0;
+};
+
+void systemPowerMessage(void* refcon, io_service_t, uint32_t messageType, void* argument) {
+    assert([NSThread isMainThread]);
+    auto* registration = static_cast<SystemPowerRegistration*>(refcon);
+    std::function<void()> allow;
+    // Only the two questions about sleep take an answer; answering any other message is
+    // wrong, and leaving these two unanswered holds sleep up for 30 seconds.
+    if (messageType == kIOMessageCanSystemSleep || messageType == kIOMessageSystemWillSleep) {
+        const io_connect_t port = registration->rootPort;
+        const auto notificationID = reinterpret_cast<intptr_t>(argument);
+        allow = [port, notificationID] { IOAllowPowerChange(port, notificationID); };
+    }
+    try {
+        registration->handler(messageType, std::move(allow));
+    } catch (...) {
+        // Nothing may unwind into IOKit.
+    }
+}
+
+std::optional<RepeatingPowerEvents::Event> repeatingEvent(NSDictionary* events, NSString* key) {
+    NSDictionary* event = events[key];
+    if (![event isKindOfClass:[NSDictionary class]]) {
+        return std::nullopt;
+    }
+    NSString* type = event[@kIOPMPowerEventTypeKey];
+    NSNumber* time = event[@kIOPMPowerEventTimeKey];
+    NSNumber* days = event[@kIOPMDaysOfWeekKey];
+    if (![type isKindOfClass:[NSString class]] || ![time isKindOfClass:[NSNumber class]] ||
+        ![days isKindOfClass:[NSNumber class]]) {
+        return std::nullopt;
+    }
+    return RepeatingPowerEvents::Event{utf8String(type), time.intValue, days.intValue};
+}
+
+}  // namespace
+
+Subscription MacPowerManagement::registerForSystemPower(SystemPowerHandler handler) {
+    auto registration = std::make_shared<SystemPowerRegistration>();
+    registration->handler = std::move(handler);
+    // The registration is the context: it lives until the subscription ends, and the
+    // subscription undoes the registration first.
+    registration->rootPort = IORegisterForSystemPower(registration.get(), &registration->notifyPort,
+                                                      &systemPowerMessage, &registration->notifier);
+    if (registration->rootPort == MACH_PORT_NULL) {
+        return {};
+    }
+    CFRunLoopAddSource(CFRunLoopGetMain(),
+                       IONotificationPortGetRunLoopSource(registration->notifyPort),
+                       kCFRunLoopCommonModes);
+    return Subscription([registration] {
+        CFRunLoopRemoveSource(CFRunLoopGetMain(),
+                              IONotificationPortGetRunLoopSource(registration->notifyPort),
+                              kCFRunLoopCommonModes);
+        IODeregisterForSystemPower(&registration->notifier);
+        IOServiceClose(registration->rootPort);
+        IONotificationPortDestroy(registration->notifyPort);
+    });
+}
+
+RepeatingPowerEvents MacPowerManagement::copyRepeatingPowerEvents() {
+    // unconfirmed: check on a Mac first (the key strings of IOPMKeys.h and the weekday bits,
+    // Monday in bit 0, are as pmset's repeat command reads them).
+    const auto copied = CFRef<CFDictionaryRef>::adopt(IOPMCopyRepeatingPowerEvents());
+    if (!copied) {
+        return {};
+    }
+    NSDictionary* events = (__bridge NSDictionary*)copied.get();
+    return {
+        repeatingEvent(events, @kIOPMRepeatingPowerOnKey),
+            repeatingEvent(events, @kIOPMRepeatingPowerOffKey)
+    };
+}
 
 int MacPowerManagement::createAssertion(AssertionType type, const std::string& name,
                                         AssertionID& id) {

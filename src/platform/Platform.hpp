@@ -27,6 +27,10 @@ class DateFormatting;
 class DisplayConfiguration;
 class SystemLog;
 class PowerManagement;
+class PowerSources;
+class ChargingHelper;
+class DiskArbitration;
+class HIDBatteries;
 struct InputServices;
 class FileSystem;
 class Archives;
@@ -90,6 +94,10 @@ struct Platform {
     UserCalendar& userCalendar;
     CalendarEvents& calendarEvents;
     DisplayControl& displayControl;
+    PowerSources& powerSources;
+    ChargingHelper& chargingHelper;
+    DiskArbitration& diskArbitration;
+    HIDBatteries& hidBatteries;
 };
 
 }  // namespace quorvane

@@ -12,6 +12,8 @@ public:
     }
     int releaseAssertion(AssertionID) override { return kUnsupported; }
     int lockScreen() override { return kUnsupported; }
+    Subscription registerForSystemPower(SystemPowerHandler) override { return {}; }
+    RepeatingPowerEvents copyRepeatingPowerEvents() override { return {}; }
 };
 
 }  // namespace quorvane

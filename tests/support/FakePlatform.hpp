@@ -9,10 +9,12 @@
 #include "support/FakeAccessibility.hpp"
 #include "support/FakeAudioHardware.hpp"
 #include "support/FakeCalendarEvents.hpp"
+#include "support/FakeChargingHelper.hpp"
 #include "support/FakeChildProcesses.hpp"
 #include "support/FakeColorSampler.hpp"
 #include "support/FakeDateFormatting.hpp"
 #include "support/FakeDefaultApplications.hpp"
+#include "support/FakeDiskArbitration.hpp"
 #include "support/FakeDisplayConfiguration.hpp"
 #include "support/FakeDisplayControl.hpp"
 #include "support/FakeEventMonitors.hpp"
@@ -21,6 +23,7 @@
 #include "support/FakeFileSystem.hpp"
 #include "support/FakeFinderExtensionChannel.hpp"
 #include "support/FakeFirmwareVariables.hpp"
+#include "support/FakeHIDBatteries.hpp"
 #include "support/FakeHIDEventServices.hpp"
 #include "support/FakeHostStatistics.hpp"
 #include "support/FakeHotKeySystem.hpp"
@@ -29,6 +32,7 @@
 #include "support/FakePasteboard.hpp"
 #include "support/FakePermissionProbe.hpp"
 #include "support/FakePowerManagement.hpp"
+#include "support/FakePowerSources.hpp"
 #include "support/FakePreferenceDomains.hpp"
 #include "support/FakeProcessFacts.hpp"
 #include "support/FakeScreenCapture.hpp"
@@ -87,6 +91,10 @@ struct FakePlatform {
     FakeUserCalendar userCalendar;
     FakeCalendarEvents calendarEvents;
     FakeDisplayControl displayControl;
+    FakePowerSources powerSources;
+    FakeChargingHelper chargingHelper;
+    FakeDiskArbitration diskArbitration;
+    FakeHIDBatteries hidBatteries;
 
     Platform platform() {
         return {preferences,
@@ -127,7 +135,11 @@ struct FakePlatform {
                 hostStatistics,
                 userCalendar,
                 calendarEvents,
-                displayControl};
+                displayControl,
+                powerSources,
+                chargingHelper,
+                diskArbitration,
+                hidBatteries};
     }
 };
 

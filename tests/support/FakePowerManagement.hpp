@@ -2,6 +2,9 @@
 
 #include <map>
 #include <string>
+#include <vector>
+
+#include "base/HandlerList.hpp"
 
 #include "platform/PowerManagement.hpp"
 
@@ -38,6 +41,22 @@ struct FakePowerManagement : PowerManagement {
     int lockScreen() override {
         ++locks;
         return lockStatus;
+    }
+
+    // The system's sleep and wake messages, and the acknowledgements given for them.
+    HandlerList<std::uint32_t, std::function<void()>> systemPower;
+    int acknowledgements = 0;
+    RepeatingPowerEvents repeating;
+    Subscription registerForSystemPower(SystemPowerHandler handler) override {
+        return systemPower.add(std::move(handler));
+    }
+    RepeatingPowerEvents copyRepeatingPowerEvents() override { return repeating; }
+    // Sends a message as the root power domain would; the two questions carry an
+    // acknowledgement.
+    void send(std::uint32_t message) {
+        const bool asks = message == kCanSystemSleep || message == kSystemWillSleep;
+        systemPower.call(message, asks ? std::function<void()>([this] { ++acknowledgements; })
+                                       : std::function<void()>());
     }
 };
 

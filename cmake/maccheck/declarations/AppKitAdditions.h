@@ -401,6 +401,16 @@ APPKIT_EXPORT NSNotificationName const NSWindowDidChangeOcclusionStateNotificati
 @property(readonly, copy) NSString* localizedName;
 @end
 FOUNDATION_EXPORT NSNotificationName const NSCalendarDayChangedNotification;
+typedef NS_OPTIONS(NSUInteger, NSVolumeEnumerationOptions) {
+    NSVolumeEnumerationSkipHiddenVolumes = 1UL << 1,
+    NSVolumeEnumerationProduceFileReferenceURLs = 1UL << 2,
+};
+@interface NSFileManager (QVMacAdditions)
+// The keys are NSURLResourceKey, a name for NSString that GNUstep lacks.
+- (nullable NSArray<NSURL*>*)
+    mountedVolumeURLsIncludingResourceValuesForKeys:(nullable NSArray<NSString*>*)propertyKeys
+                                            options:(NSVolumeEnumerationOptions)options;
+@end
 
 NS_ASSUME_NONNULL_END
 #endif

@@ -2,8 +2,10 @@
 
 #include "tools/system/AppUninstallerTool.hpp"
 #include "tools/system/ArchivesTool.hpp"
+#include "tools/system/BatteryLimitTool.hpp"
 #include "tools/system/ColorPickerTool.hpp"
 #include "tools/system/DefaultAppsTool.hpp"
+#include "tools/system/DeviceBatteriesTool.hpp"
 #include "tools/system/DisplayBrightnessTool.hpp"
 #include "tools/system/FinderCutTool.hpp"
 #include "tools/system/FinderNewFileTool.hpp"
@@ -15,8 +17,10 @@
 #include "tools/system/LockScreenTool.hpp"
 #include "tools/system/MenuBarCalendarTool.hpp"
 #include "tools/system/MenuBarStatsTool.hpp"
+#include "tools/system/PowerScheduleTool.hpp"
 #include "tools/system/PreferenceFlipTool.hpp"
 #include "tools/system/PresentationModeTool.hpp"
+#include "tools/system/SafeDrivesTool.hpp"
 #include "tools/system/ScreenRecorderTool.hpp"
 #include "tools/system/ScreenshotScreenTool.hpp"
 #include "tools/system/ScreenshotSettingsTool.hpp"
@@ -55,6 +59,10 @@ const ToolFactories& systemTools() {
         {"menu-bar-calendar", &buildTool<MenuBarCalendarTool>},
         {"display-brightness", &buildTool<DisplayBrightnessTool>},
         {"hide-menu-bar-icons", &buildTool<HideMenuBarIconsTool>},
+        {"power-schedule", &buildTool<PowerScheduleTool>},
+        {"battery-limit", &buildTool<BatteryLimitTool>},
+        {"device-batteries", &buildTool<DeviceBatteriesTool>},
+        {"safe-drives", &buildTool<SafeDrivesTool>},
     };
     return factories;
 }

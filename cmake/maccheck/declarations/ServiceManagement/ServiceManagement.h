@@ -1,7 +1,7 @@
 #pragma once
 // The login-item service (macOS 13), Objective-C only. Written from Apple's documentation
 // (developer.apple.com/documentation/servicemanagement/smappservice and its members); looked
-// up: SMAppService.Status, status.
+// up: SMAppService.Status, status, daemon(plistName:), register(), unregister().
 #ifdef __OBJC__
 #import <Foundation/Foundation.h>
 
@@ -15,6 +15,7 @@ typedef NS_ENUM(NSInteger, SMAppServiceStatus) {
 @interface SMAppService : NSObject
 @property(class, readonly) SMAppService* mainAppService;
 + (SMAppService*)loginItemServiceWithIdentifier:(NSString*)identifier;
++ (SMAppService*)daemonServiceWithPlistName:(NSString*)plistName;
 - (BOOL)registerAndReturnError:(NSError* _Nullable __autoreleasing* _Nullable)error;
 - (BOOL)unregisterAndReturnError:(NSError* _Nullable __autoreleasing* _Nullable)error;
 @property(readonly) SMAppServiceStatus status;

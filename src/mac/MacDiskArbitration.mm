@@ -1,0 +1,137 @@
+#include "mac/MacDiskArbitration.hpp"
+
+#include <cassert>
+
+#include "mac/CFRef.hpp"
+#include "mac/MacFrameworks.h"
+#include "mac/MacStrings.hpp"
+
+namespace quorvane {
+
+struct MacDiskArbitration::Session {
+    CFRef<DASessionRef> session;
+};
+
+namespace {
+
+std::optional<DiskDescription> describeDisk(DADiskRef disk) {
+    if (!disk) {
+        return std::nullopt;
+    }
+    const auto copied = CFRef<CFDictionaryRef>::adopt(DADiskCopyDescription(disk));
+    if (!copied) {
+        return std::nullopt;
+    }
+    NSDictionary* description = (__bridge NSDictionary*)copied.get();
+    const auto flag = [&](CFStringRef key, bool fallback) {
+        NSNumber* value = description[(__bridge NSString*)key];
+        return [value isKindOfClass:[NSNumber class]] ? static_cast<bool>(value.boolValue)
+                                                      : fallback;
+    };
+    DiskDescription result;
+    const char* bsdName = DADiskGetBSDName(disk);
+    result.bsdName = bsdName ? bsdName : "";
+    NSString* name = description[(__bridge NSString*)kDADiskDescriptionVolumeNameKey];
+    result.volumeName = [name isKindOfClass:[NSString class]] ? utf8String(name) : "";
+    NSURL* path = description[(__bridge NSString*)kDADiskDescriptionVolumePathKey];
+    result.volumePath = [path isKindOfClass:[NSURL class]] ? utf8String(path.path) : "";
+    result.deviceInternal = flag(kDADiskDescriptionDeviceInternalKey, false);
+    result.volumeNetwork = flag(kDADiskDescriptionVolumeNetworkKey, false);
+    result.mountable = flag(kDADiskDescriptionVolumeMountableKey, true);
+    return result;
+}
+
+// The completion of one request, reached through the context pointer; the subscription
+// empties it when the caller no longer wants the answer.
+using SharedCompletion = std::shared_ptr<DiskArbitration::Completion>;
+
+void answered(DADiskRef, DADissenterRef dissenter, void* context) {
+    assert([NSThread isMainThread]);
+    // The context is the heap copy made for this one request; it is freed here, once.
+    const std::unique_ptr<SharedCompletion> completion(static_cast<SharedCompletion*>(context));
+    if (*completion && **completion) {
+        try {
+            (**completion)(dissenter ? DADissenterGetStatus(dissenter) : 0);
+        } catch (...) {
+            // Nothing may unwind into Disk Arbitration.
+        }
+    }
+}
+
+// Starts one request on the named disk; the call gets the disk and the context that carries
+// the completion to the answer.
+Subscription request(DASessionRef session, const std::string& bsdName,
+                     DiskArbitration::Completion done, void (*call)(DADiskRef, void*)) {
+    const auto disk = CFRef<DADiskRef>::adopt(
+        session ? DADiskCreateFromBSDName(kCFAllocatorDefault, session, bsdName.c_str()) : nullptr);
+    if (!disk) {
+        return {};
+    }
+    auto completion = std::make_shared<DiskArbitration::Completion>(std::move(done));
+    call(disk.get(), new SharedCompletion(completion));
+    return Subscription([completion] { *completion = nullptr; });
+}
+
+}  // namespace
+
+MacDiskArbitration::MacDiskArbitration() : session_(std::make_unique<Session>()) {
+    session_->session = CFRef<DASessionRef>::adopt(DASessionCreate(kCFAllocatorDefault));
+    if (session_->session) {
+        DASessionScheduleWithRunLoop(session_->session.get(), CFRunLoopGetMain(),
+                                     kCFRunLoopCommonModes);
+    }
+}
+
+MacDiskArbitration::~MacDiskArbitration() {
+    if (session_->session) {
+        DASessionUnscheduleFromRunLoop(session_->session.get(), CFRunLoopGetMain(),
+                                       kCFRunLoopCommonModes);
+    }
+}
+
+std::vector<DiskDescription> MacDiskArbitration::mountedVolumes() {
+    std::vector<DiskDescription> volumes;
+    if (!session_->session) {
+        return volumes;
+    }
+    NSArray<NSURL*>* urls =
+        [[NSFileManager defaultManager] mountedVolumeURLsIncludingResourceValuesForKeys:nil
+                                                                                options:0];
+    for (NSURL* url in urls) {
+        // Volumes Disk Arbitration does not manage (devfs, some network mounts) give no disk.
+        const auto disk = CFRef<DADiskRef>::adopt(DADiskCreateFromVolumePath(
+            kCFAllocatorDefault, session_->session.get(), (__bridge CFURLRef)url));
+        if (auto description = describeDisk(disk.get())) {
+            volumes.push_back(std::move(*description));
+        }
+    }
+    return volumes;
+}
+
+std::optional<DiskDescription> MacDiskArbitration::describe(const std::string& bsdName) {
+    if (!session_->session) {
+        return std::nullopt;
+    }
+    // unconfirmed: check on a Mac first (that a detached disk's BSD name gives no disk or
+    // no description, rather than an empty one).
+    const auto disk = CFRef<DADiskRef>::adopt(
+        DADiskCreateFromBSDName(kCFAllocatorDefault, session_->session.get(), bsdName.c_str()));
+    return describeDisk(disk.get());
+}
+
+Subscription MacDiskArbitration::unmount(const std::string& bsdName, Completion done) {
+    return request(session_->session.get(), bsdName, std::move(done),
+                   [](DADiskRef disk, void* context) {
+                       DADiskUnmount(disk, kDADiskUnmountOptionDefault, &answered, context);
+                   });
+}
+
+Subscription MacDiskArbitration::mount(const std::string& bsdName, Completion done) {
+    return request(session_->session.get(), bsdName, std::move(done),
+                   [](DADiskRef disk, void* context) {
+                       // No path: the volume goes back where Disk Arbitration mounts it by default.
+                       DADiskMount(disk, nullptr, kDADiskMountOptionDefault, &answered, context);
+                   });
+}
+
+}  // namespace quorvane

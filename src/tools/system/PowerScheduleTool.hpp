@@ -1,0 +1,60 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "app/Tool.hpp"
+#include "app/ToolDescriptor.hpp"
+#include "platform/Platform.hpp"
+#include "tools/system/PowerSchedule.hpp"
+
+namespace quorvane {
+
+// Hands the user's weekly schedule to power management, which then wakes, sleeps, shuts down
+// or restarts the Mac by itself, even while Quorvane is not running. Changing it takes an
+// administrator, so each change asks for a password. The schedule found when the tool was
+// turned on is kept and put back when it is turned off.
+class PowerScheduleTool : public Tool {
+public:
+    static constexpr const char* kWakeKey = "powerSchedule.wake";
+    static constexpr const char* kWakeDaysKey = "powerSchedule.wakeDays";
+    static constexpr const char* kWakeTimeKey = "powerSchedule.wakeTime";
+    static constexpr const char* kStopKey = "powerSchedule.stop";
+    static constexpr const char* kStopDaysKey = "powerSchedule.stopDays";
+    static constexpr const char* kStopTimeKey = "powerSchedule.stopTime";
+    // The pmset arguments that restore the schedule found at start, until it is restored.
+    static constexpr const char* kOriginalKey = "powerSchedule.original";
+    static constexpr const char* kOsascript = "/usr/bin/osascript";
+    static constexpr const char* kPmset = "/usr/bin/pmset";
+
+    PowerScheduleTool(const ToolDescriptor& descriptor, const Platform& platform);
+    ~PowerScheduleTool() override;
+
+    const ToolIdentity& identity() const override { return descriptor_.identity; }
+    void start() override;
+    void stop() override;
+    void tidy() override;
+    SettingsPage settingsPage() override;
+
+    const PowerSchedule& schedule() const { return schedule_; }
+    void setSchedule(const PowerSchedule& schedule);
+    const std::optional<std::string>& lastError() const { return lastError_; }
+    // The program and arguments that run pmset with these arguments as an administrator,
+    // through the system's authorisation prompt.
+    static std::vector<std::string> privilegedCommand(const std::vector<std::string>& pmset);
+
+private:
+    void store() const;
+    // Makes power management hold these events; false, with lastError set, when it failed.
+    bool apply(const RepeatingPowerEvents& events, const std::string& what);
+    void restore();
+
+    const ToolDescriptor& descriptor_;
+    Platform platform_;
+    PowerSchedule schedule_;
+    bool running_ = false;
+    std::optional<std::string> lastError_;
+};
+
+}  // namespace quorvane

@@ -1,0 +1,140 @@
+#include <gtest/gtest.h>
+
+#include "app/ToolRegistry.hpp"
+#include "cli/SettingsTextRenderer.hpp"
+#include "support/CatalogDescriptor.hpp"
+#include "support/FakePlatform.hpp"
+#include "tools/system/PowerScheduleTool.hpp"
+
+namespace quorvane {
+namespace {
+
+using Words = std::vector<std::string>;
+using Event = RepeatingPowerEvents::Event;
+
+TEST(PowerSchedule, TheScheduleAsPmsetArgumentsAndAsText) {
+    PowerSchedule schedule;
+    EXPECT_EQ(PowerSchedule::pmsetArguments(schedule.events()), (Words{"repeat", "cancel"}));
+    EXPECT_EQ(PowerSchedule::describe(schedule.events()), "No schedule.");
+
+    schedule.wake = true;
+    schedule.wakeMinutes = 7 * 60 + 5;
+    schedule.stop = PowerSchedule::Stop::shutdown;
+    schedule.stopDays = 1 | 4 | 64;
+    schedule.stopMinutes = 23 * 60 + 30;
+    EXPECT_EQ(
+        PowerSchedule::pmsetArguments(schedule.events()),
+        (Words{"repeat", "wakeorpoweron", "MTWRF", "07:05:00", "shutdown", "MWU", "23:30:00"}));
+    EXPECT_EQ(PowerSchedule::describe(schedule.events()),
+              "Starts or wakes at 07:05 on weekdays. Shuts down at 23:30 on Mondays, "
+              "Wednesdays, Sundays.");
+    // A schedule set elsewhere, with only a stop.
+    EXPECT_EQ(PowerSchedule::pmsetArguments({std::nullopt, Event{"sleep", 0, 0x60}}),
+              (Words{"repeat", "sleep", "SU", "00:00:00"}));
+
+    EXPECT_EQ(PowerSchedule::parseTime("7:30"), 450);
+    EXPECT_EQ(PowerSchedule::parseTime("23:59"), 23 * 60 + 59);
+    for (const char* bad : {"24:00", "7:60", "730", "7:3", ":30", "07:30 ", "ab:cd", ""}) {
+        EXPECT_FALSE(PowerSchedule::parseTime(bad)) << bad;
+    }
+    EXPECT_EQ(PowerSchedule::validDays(0, 31), 31);
+    EXPECT_EQ(PowerSchedule::validDays(200, 31), 31);
+    EXPECT_EQ(PowerSchedule::validDays(96, 31), 96);
+}
+
+struct PowerScheduleToolTest : ::testing::Test {
+    FakePlatform fakes;
+    ToolDescriptor descriptor = catalogDescriptor("power-schedule");
+    // The user's own schedule before Quorvane: sleep at 22:00 every day.
+    RepeatingPowerEvents theirs{std::nullopt, Event{"sleep", 22 * 60, 0x7F}};
+
+    // What ran through the authorisation prompt, as pmset's arguments.
+    std::vector<std::string> pmsetRuns() const {
+        std::vector<std::string> runs;
+        for (const auto& run : fakes.childProcesses.runs) {
+            EXPECT_EQ(run.executablePath, "/usr/bin/osascript");
+            runs.push_back(run.arguments.at(1));
+        }
+        return runs;
+    }
+    static std::string prompt(const std::string& pmset) {
+        return "do shell script \"/usr/bin/pmset " + pmset + "\" with administrator privileges";
+    }
+};
+
+TEST_F(PowerScheduleToolTest, SetsTheScheduleAndPutsTheUsersOwnBackWhenTurnedOff) {
+    fakes.power.repeating = theirs;
+    PowerScheduleTool tool{descriptor, fakes.platform()};
+    PowerSchedule schedule;
+    schedule.wake = true;
+    tool.setSchedule(schedule);
+    EXPECT_TRUE(fakes.childProcesses.runs.empty()) << "nothing is changed while off";
+    fakes.preferences.set(ToolRegistry::enabledKey("power-schedule"), true);
+    tool.start();
+    EXPECT_EQ(pmsetRuns(), (Words{prompt("repeat wakeorpoweron MTWRF 08:00:00")}));
+    fakes.power.repeating = schedule.events();  // what pmset did
+
+    // An edit while on is handed over at once; one that changes nothing asks for nothing.
+    schedule.stop = PowerSchedule::Stop::sleep;
+    tool.setSchedule(schedule);
+    tool.setSchedule(schedule);
+    EXPECT_EQ(pmsetRuns().size(), 2u);
+    EXPECT_EQ(pmsetRuns().back(),
+              prompt("repeat wakeorpoweron MTWRF 08:00:00 sleep MTWRFSU 23:00:00"));
+    fakes.power.repeating = schedule.events();
+
+    // Quitting keeps the schedule; turning the tool off restores the user's.
+    tool.stop();
+    EXPECT_EQ(pmsetRuns().size(), 2u);
+    tool.start();
+    fakes.preferences.set(ToolRegistry::enabledKey("power-schedule"), false);
+    tool.stop();
+    EXPECT_EQ(pmsetRuns().back(), prompt("repeat sleep MTWRFSU 22:00:00"));
+    EXPECT_FALSE(fakes.preferences.string(PowerScheduleTool::kOriginalKey));
+    PowerScheduleTool reread{descriptor, fakes.platform()};
+    EXPECT_EQ(reread.schedule().events(), schedule.events());
+}
+
+TEST_F(PowerScheduleToolTest, ACancelledPasswordIsShownAndTheRestoreIsTriedAgainAtLaunch) {
+    PowerSchedule schedule;
+    schedule.stop = PowerSchedule::Stop::restart;
+    fakes.preferences.set(PowerScheduleTool::kStopKey, "restart");
+    fakes.childProcesses.results["/usr/bin/osascript"] = ChildProcessStatus::exited(1);
+    {
+        PowerScheduleTool tool{descriptor, fakes.platform()};
+        tool.start();
+        ASSERT_TRUE(tool.lastError());
+        EXPECT_NE(tool.lastError()->find("osascript ended with status 1"), std::string::npos);
+        EXPECT_NE(SettingsTextRenderer::render(tool.settingsPage()).find("No schedule."),
+                  std::string::npos);
+        fakes.power.repeating = schedule.events();  // say the second try went through
+        tool.stop();
+        ASSERT_TRUE(tool.lastError());
+        EXPECT_NE(tool.lastError()->find("tries again"), std::string::npos);
+    }
+    fakes.childProcesses.results.clear();
+    fakes.childProcesses.runs.clear();
+    PowerScheduleTool next{descriptor, fakes.platform()};
+    next.tidy();
+    EXPECT_EQ(pmsetRuns(), (Words{prompt("repeat cancel")}));
+    next.tidy();
+    EXPECT_EQ(pmsetRuns().size(), 1u);
+}
+
+TEST_F(PowerScheduleToolTest, ATimeThatIsNoTimeIsRefusedOnThePage) {
+    fakes.preferences.set(PowerScheduleTool::kWakeKey, true);
+    fakes.preferences.set(PowerScheduleTool::kWakeTimeKey, 9999);  // corrupt: the default
+    PowerScheduleTool tool{descriptor, fakes.platform()};
+    EXPECT_EQ(tool.schedule().wakeMinutes, 8 * 60);
+    auto page = tool.settingsPage();
+    auto& field = std::get<SettingsRow::TextField>(page.sections[0].rows[2].kind);
+    field.set("8h");
+    EXPECT_EQ(tool.schedule().wakeMinutes, 8 * 60);
+    ASSERT_TRUE(tool.lastError());
+    EXPECT_NE(tool.lastError()->find("“8h” is not a time of day"), std::string::npos);
+    field.set("06:45");
+    EXPECT_EQ(fakes.preferences.integer(PowerScheduleTool::kWakeTimeKey), 6 * 60 + 45);
+}
+
+}  // namespace
+}  // namespace quorvane
