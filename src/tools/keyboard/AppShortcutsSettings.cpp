@@ -21,11 +21,12 @@ SettingsPage AppShortcutsTool::settingsPage() {
     for (const auto& entry : appEntries(platform_.workspace, this->apps())) {
         shortcuts.rows.push_back(shortcut(entry.bundleID)->row(entry.name));
     }
-    shortcuts.rows.push_back(
-        {SettingsRow::Warning{lastError_}, [this] { return !lastError_.empty(); }});
+    apps.rows.push_back({SettingsRow::Warning{lastError_}, [this] { return !lastError_.empty(); }});
     SettingsPage page;
     page.add(std::move(apps));
-    page.add(std::move(shortcuts));
+    if (!shortcuts.rows.empty()) {
+        page.add(std::move(shortcuts));
+    }
     return page;
 }
 

@@ -111,7 +111,10 @@ void DefaultAppsTool::restoreAll() {
         }
     }
     saveBackup();
-    for (const auto& [handler, original] : changes) {
+    for (const auto& change : changes) {
+        // Named copies: lambdas cannot capture structured bindings on every compiler we support.
+        const std::string handler = change.first;
+        const std::string original = change.second;
         setHandler(handler, original, guarded([this, handler, original](const std::string& error) {
                        if (error.empty()) {
                            backup_.drop(handler);

@@ -13,10 +13,13 @@ namespace {
 using Kind = AppShortcutAction::Kind;
 
 TEST(AppShortcutAction, HidesInFrontActivatesWhenRunningLaunchesOtherwise) {
-    RunningApplication notes{.pid = 7, .bundleID = "com.example.notes"};
-    RunningApplication helper{.pid = 8,
-                              .bundleID = "com.example.player",
-                              .activationPolicy = RunningApplication::ActivationPolicy::accessory};
+    RunningApplication notes;
+    notes.pid = 7;
+    notes.bundleID = "com.example.notes";
+    RunningApplication helper;
+    helper.pid = 8;
+    helper.bundleID = "com.example.player";
+    helper.activationPolicy = RunningApplication::ActivationPolicy::accessory;
     const std::vector<RunningApplication> running{notes, helper};
 
     EXPECT_EQ(AppShortcutAction::decide("com.example.notes", notes, running),
