@@ -7,6 +7,7 @@
 #import <AppKit/NSApplication.h>
 #import <AppKit/NSButton.h>
 #import <AppKit/NSColor.h>
+#import <AppKit/NSColorSpace.h>
 #import <AppKit/NSEvent.h>
 #import <AppKit/NSFont.h>
 #import <AppKit/NSImage.h>
@@ -347,6 +348,11 @@ APPKIT_EXPORT NSPasteboardReadingOptionKey const NSPasteboardURLReadingFileURLsO
     readObjectsForClasses:(NSArray<Class>*)classArray
                   options:(nullable NSDictionary<NSPasteboardReadingOptionKey, id>*)options;
 @property(nullable, readonly, copy) NSArray<NSPasteboardItem*>* pasteboardItems;
+@end
+
+// developer.apple.com/documentation/appkit/nscolorspace/srgb
+@interface NSColorSpace (QuorvaneSRGB)
++ (NSColorSpace*)sRGBColorSpace;
 @end
 
 NS_ASSUME_NONNULL_END
