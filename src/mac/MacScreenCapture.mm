@@ -295,8 +295,9 @@ __attribute__((availability(macos, introduced = 15.0)))
     [[NSColor colorWithCalibratedWhite:0 alpha:0.15] setFill];
     NSRectFill(self.bounds);
     if (_selection.size.width > 0 && _selection.size.height > 0) {
+        // NSRectFill copies, so a clear fill cuts the chosen area out of the tint.
         [[NSColor clearColor] setFill];
-        NSRectFillUsingOperation(_selection, NSCompositingOperationCopy);
+        NSRectFill(_selection);
         [[NSColor whiteColor] setStroke];
         [NSBezierPath strokeRect:_selection];
     }
@@ -429,7 +430,8 @@ bool MacScreenCapture::writePNG(const Thumbnail& image, const std::string& path)
 Subscription MacScreenCapture::selectArea(AreaHandler handler) {
     auto shared = std::make_shared<CancellableHandler<AreaHandler>>(std::move(handler));
     NSMutableArray<NSWindow*>* windows = [NSMutableArray array];
-    const CGFloat primaryHeight = NSScreen.screens.firstObject.frame.size.height;
+    NSScreen* primary = NSScreen.screens.firstObject;
+    const CGFloat primaryHeight = primary.frame.size.height;
     __block BOOL done = NO;
     void (^finish)(NSRect, BOOL) = ^(NSRect screenRect, BOOL chosen) {
       if (done) {

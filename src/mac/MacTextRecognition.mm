@@ -13,41 +13,51 @@
 
 namespace quorvane {
 
+namespace {
+
+void readText(CGImageRef image, bool accurate, bool languageCorrection,
+              std::vector<TextRecognition::Observation>& found, std::string& failure) {
+    @autoreleasepool {
+        VNRecognizeTextRequest* request = [[VNRecognizeTextRequest alloc] init];
+        request.recognitionLevel =
+            accurate ? VNRequestTextRecognitionLevelAccurate : VNRequestTextRecognitionLevelFast;
+        request.usesLanguageCorrection = languageCorrection;
+        VNImageRequestHandler* reader = [[VNImageRequestHandler alloc] initWithCGImage:image
+                                                                               options:@{}];
+        NSError* error = nil;
+        if (![reader performRequests:@[ request ] error:&error]) {
+            failure = error != nil ? utf8String(error.localizedDescription)
+                                   : std::string("no reason given");
+            return;
+        }
+        for (VNRecognizedTextObservation* observation in request.results) {
+            VNRecognizedText* best = [observation topCandidates:1].firstObject;
+            if (best == nil) {
+                continue;
+            }
+            const CGRect box = observation.boundingBox;
+            found.push_back({utf8String(best.string),
+                             Rect(box.origin.x, box.origin.y, box.size.width, box.size.height),
+                             static_cast<double>(best.confidence)});
+        }
+    }
+}
+
+}  // namespace
+
 Subscription MacTextRecognition::recognize(const Thumbnail& image, bool accurate,
                                            bool languageCorrection, Handler handler) {
     auto shared = std::make_shared<CancellableHandler<Handler>>(std::move(handler));
     // The shared pointer keeps the picture alive on the other queue.
     const std::shared_ptr<const void> picture = image.image;
-    dispatch_async(dispatch_get_global_queue(QOS_CLASS_USER_INITIATED, 0), ^{
+    // 0 is the default-priority global queue.
+    dispatch_async(dispatch_get_global_queue(0, 0), ^{
       std::vector<Observation> found;
-      std::string failure;
-      @autoreleasepool {
-          VNRecognizeTextRequest* request = [[VNRecognizeTextRequest alloc] init];
-          request.recognitionLevel =
-              accurate ? VNRequestTextRecognitionLevelAccurate : VNRequestTextRecognitionLevelFast;
-          request.usesLanguageCorrection = languageCorrection;
-          VNImageRequestHandler* reader = [[VNImageRequestHandler alloc]
-              initWithCGImage:static_cast<CGImageRef>(const_cast<void*>(picture.get()))
-                      options:@{}];
-          NSError* error = nil;
-          if (picture == nullptr) {
-              failure = "there is no picture";
-          } else if (![reader performRequests:@[ request ] error:&error]) {
-              failure = error != nil ? utf8String(error.localizedDescription)
-                                     : std::string("no reason given");
-          } else {
-              for (VNRecognizedTextObservation* observation in request.results) {
-                  VNRecognizedText* best = [observation topCandidates:1].firstObject;
-                  if (best == nil) {
-                      continue;
-                  }
-                  const CGRect box = observation.boundingBox;
-                  found.push_back(
-                      {utf8String(best.string),
-                       Rect(box.origin.x, box.origin.y, box.size.width, box.size.height),
-                       static_cast<double>(best.confidence)});
-              }
-          }
+      std::string failure = "there is no picture";
+      if (picture) {
+          failure.clear();
+          readText(static_cast<CGImageRef>(const_cast<void*>(picture.get())), accurate,
+                   languageCorrection, found, failure);
       }
       dispatch_async(dispatch_get_main_queue(), ^{
         if (!shared->cancelled) {

@@ -7,6 +7,7 @@
 #import <AppKit/NSApplication.h>
 #import <AppKit/NSButton.h>
 #import <AppKit/NSColor.h>
+#import <AppKit/NSColorSpace.h>
 #import <AppKit/NSEvent.h>
 #import <AppKit/NSFont.h>
 #import <AppKit/NSImage.h>
@@ -410,6 +411,9 @@ typedef NS_OPTIONS(NSUInteger, NSVolumeEnumerationOptions) {
 - (nullable NSArray<NSURL*>*)
     mountedVolumeURLsIncludingResourceValuesForKeys:(nullable NSArray<NSString*>*)propertyKeys
                                             options:(NSVolumeEnumerationOptions)options;
+// developer.apple.com/documentation/appkit/nscolorspace/srgb
+@interface NSColorSpace (QuorvaneSRGB)
++ (NSColorSpace*)sRGBColorSpace;
 @end
 
 NS_ASSUME_NONNULL_END

@@ -84,6 +84,23 @@ std::optional<Size> CaptureTargets::size(const ScreenCapture::Content& content,
     return std::nullopt;
 }
 
+double CaptureTargets::scale(const ScreenCapture::Content& content, const Target& target) {
+    if (target.kind == Target::Kind::window) {
+        for (const auto& window : content.windows) {
+            if (window.windowID == target.id) {
+                return window.scale;
+            }
+        }
+        return 1;
+    }
+    for (const auto& display : content.displays) {
+        if (display.displayID == target.id) {
+            return display.scale;
+        }
+    }
+    return 1;
+}
+
 Size CaptureTargets::pixels(Size points, double scale) {
     const auto even = [&](double length) {
         const double scaled = std::max(2.0, std::round(std::fabs(length) * scale));

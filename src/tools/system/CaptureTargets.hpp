@@ -29,6 +29,8 @@ public:
     // The target's size in points: the source rectangle, the window or the display.
     static std::optional<Size> size(const ScreenCapture::Content& content,
                                     const ScreenCapture::Target& target);
+    // Pixels per point of the display or window; 1 when it is not listed.
+    static double scale(const ScreenCapture::Content& content, const ScreenCapture::Target& target);
     // Points to output pixels at `scale`, rounded to even numbers, which video encoders need.
     static Size pixels(Size points, double scale);
 };

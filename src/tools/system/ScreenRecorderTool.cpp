@@ -152,18 +152,6 @@ void ScreenRecorderTool::begin(const ScreenCapture::Content& content, std::optio
                                        : "There is no display to record");
         return;
     }
-    double scale = 1;
-    for (const auto& display : content.displays) {
-        if (target->kind == ScreenCapture::Target::Kind::display &&
-            display.displayID == target->id) {
-            scale = std::max(scale, display.scale);
-        }
-    }
-    for (const auto& window : content.windows) {
-        if (target->kind == ScreenCapture::Target::Kind::window && window.windowID == target->id) {
-            scale = std::max(scale, window.scale);
-        }
-    }
     const std::string where = folder();
     if (!CaptureFolder::isFolder(where)) {
         fail("The folder " + where + " doesn't exist");
@@ -178,7 +166,7 @@ void ScreenRecorderTool::begin(const ScreenCapture::Content& content, std::optio
         fail("Too many recordings with this name in " + where);
         return;
     }
-    const Size pixels = CaptureTargets::pixels(*size, scale);
+    const Size pixels = CaptureTargets::pixels(*size, CaptureTargets::scale(content, *target));
     ScreenCapture::RecordingRequest request;
     request.target = *target;
     request.path = *path;

@@ -76,13 +76,8 @@ void ScreenshotScreenTool::shoot() {
                 fail("There is no display to capture");
                 return;
             }
-            double scale = 1;
-            for (const auto& display : content->displays) {
-                if (display.displayID == target->id) {
-                    scale = std::max(scale, display.scale);
-                }
-            }
-            const Size pixels = CaptureTargets::pixels(*size, scale);
+            const Size pixels =
+                CaptureTargets::pixels(*size, CaptureTargets::scale(*content, *target));
             request_ = platform_.screenCapture.captureImage(
                 *target, static_cast<int>(pixels.width), static_cast<int>(pixels.height),
                 [this](std::optional<Thumbnail> image, const std::string& failure) {

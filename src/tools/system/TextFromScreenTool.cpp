@@ -71,12 +71,7 @@ void TextFromScreenTool::areaChosen(std::optional<Rect> area) {
                 request_ = {};  // a click rather than a drag
                 return;
             }
-            double scale = kMinimumScale;
-            for (const auto& display : content->displays) {
-                if (display.displayID == target->id) {
-                    scale = std::max(scale, display.scale);
-                }
-            }
+            const double scale = std::max(kMinimumScale, CaptureTargets::scale(*content, *target));
             const Size pixels = CaptureTargets::pixels(target->sourceRect->size, scale);
             request_ = platform_.screenCapture.captureImage(
                 *target, static_cast<int>(pixels.width), static_cast<int>(pixels.height),

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cctype>
 #include <chrono>
+#include <cmath>
 
 #include "app/BringToFront.hpp"
 #include "input/InputServices.hpp"
@@ -154,12 +155,18 @@ void DockPreviewsTool::open(const std::string& itemURL) {
         return app ? app->bundleURL : std::string();
     };
     std::vector<std::optional<std::uint32_t>> numbers;
+    std::vector<Size> pictureSizes;
     for (const std::size_t index :
          DockPreviewPlan::windowsToShow(itemURL, windows, bundleURLOf, order)) {
         const auto& window = windows[index];
         rows_.push_back({window.pid, window.element, window.record.title, window.record.bundleID,
                          std::nullopt});
         numbers.push_back(DockPreviewPlan::windowNumber(window.pid, window.record.frame, order));
+        // The picture keeps the window's proportions inside the row's square.
+        const Size frame = window.record.frame.size;
+        const double longer = std::max({frame.width, frame.height, 1.0});
+        pictureSizes.push_back({std::max(2.0, std::round(kPicturePixels * frame.width / longer)),
+                                std::max(2.0, std::round(kPicturePixels * frame.height / longer))});
     }
     if (rows_.empty() || !panel_ || !hoveredIcon_) {
         if (panel_) {
@@ -185,8 +192,9 @@ void DockPreviewsTool::open(const std::string& itemURL) {
             continue;  // on another Space: listed without a picture
         }
         pictures_.push_back(platform_.screenCapture.captureImage(
-            {ScreenCapture::Target::Kind::window, *numbers[i], std::nullopt}, kPicturePixels,
-            kPicturePixels, [this, i](std::optional<Thumbnail> picture, const std::string&) {
+            {ScreenCapture::Target::Kind::window, *numbers[i], std::nullopt},
+            static_cast<int>(pictureSizes[i].width), static_cast<int>(pictureSizes[i].height),
+            [this, i](std::optional<Thumbnail> picture, const std::string&) {
                 // A missing picture leaves the row's symbol; the list itself is still right.
                 if (picture && i < rows_.size()) {
                     rows_[i].picture = std::move(picture);

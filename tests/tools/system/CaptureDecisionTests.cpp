@@ -105,6 +105,9 @@ TEST(CaptureTargetsTest, ChoicesBecomeTheRightDisplayWindowOrPart) {
     EXPECT_FALSE(CaptureTargets::frontWindow(content, 300, order));
     EXPECT_EQ(*CaptureTargets::size(content, {ScreenCapture::Target::Kind::window, 79, {}}),
               (Size{900, 700}));
+    EXPECT_EQ(CaptureTargets::scale(content, {ScreenCapture::Target::Kind::window, 77, {}}), 2);
+    EXPECT_EQ(CaptureTargets::scale(content, *area), 1);
+    EXPECT_EQ(CaptureTargets::scale(content, {ScreenCapture::Target::Kind::display, 9, {}}), 1);
     EXPECT_EQ(CaptureTargets::pixels({301, 200.4}, 2), (Size{602, 400}));
     EXPECT_EQ(CaptureTargets::pixels({301, 201}, 1), (Size{300, 200})) << "even for the encoder";
 }

@@ -56,7 +56,7 @@ TEST_F(CaptureToolsTest, ARecordingOfTheDisplayUnderThePointerStartsAndStopsWith
     ASSERT_TRUE(fakes.hotKeys.press(15, kCommand | kShift | kOption));
     settle();
     ASSERT_EQ(fakes.screenCapture.recordings.size(), 1u);
-    const auto& request = fakes.screenCapture.recordings[0];
+    const auto request = fakes.screenCapture.recordings[0];
     EXPECT_EQ(request.target, (ScreenCapture::Target{ScreenCapture::Target::Kind::display, 2, {}}));
     EXPECT_EQ(request.width, 1920);
     EXPECT_TRUE(request.capturesAudio);
@@ -199,8 +199,8 @@ TEST_F(CaptureToolsTest, AnEscapedSelectionFailureOrStopLeavesTheClipboardAlone)
 
 TEST_F(CaptureToolsTest, AScreenshotIsOfTheDisplayUnderThePointerAndNeverReplacesAFile) {
     fakes.preferenceDomains
-        .values[{ScreenshotScreenTool::kScreencaptureDomain, PreferenceHost::any}]["location"] =
-        PreferenceValue(folder.path().string());
+        .values[{ScreenshotScreenTool::kScreencaptureDomain, PreferenceHost::any}]
+        .insert_or_assign("location", PreferenceValue(folder.path().string()));
     fakes.screenCapture.content.displays[1].scale = 2;
     ScreenshotScreenTool tool(catalogDescriptor("screenshot-screen"), fakes.platform());
     tool.start();

@@ -160,6 +160,7 @@ TEST_F(DockPreviewsToolTest, HoveringAnIconListsItsWindowsWithPicturesAndAClickR
     EXPECT_EQ(panel().frame, Rect(444 - 200, 900 - (850 - 8), 400, 460));
     ASSERT_EQ(fakes.screenCapture.captures.size(), 2u);
     EXPECT_EQ(fakes.screenCapture.captures[0].first.id, 11u);
+    EXPECT_EQ(fakes.screenCapture.captures[0].second, (Size{56, 37})) << "a 600×400 window";
     fakes.screenCapture.settle();
     EXPECT_TRUE(panel().rows()[0].thumbnail);
 
