@@ -70,6 +70,7 @@
 #include "portable/SteadyScheduler.hpp"
 #include "portable/SystemArchives.hpp"
 #include "tools/keyboard/ClipboardStore.hpp"
+#include "ui/SettingsRowEditor.hpp"
 
 #ifndef QUORVANE_VERSION
 #define QUORVANE_VERSION "0.0.0"
@@ -221,8 +222,14 @@ public:
             switchTool(availableTool(operands[0]), command == "enable");
         } else if (command == "controls") {
             controls(operands);
-        } else if (command == "settings") {
+        } else if (command == "settings" && operands.size() == 1) {
             settings(availableTool(operands[0]));
+        } else if (command == "settings") {
+            std::string error;
+            const SettingsPage page = availableTool(operands[0]).settingsPage();
+            if (!SettingsRowEditor::set(page, operands[2], operands[3], error)) {
+                throw CommandError(operands[0] + ": " + error);
+            }
         } else if (command == "keys") {
             std::string error;
             if (!KeysCommand::run(operands, *session_.platform, out_, error)) {
@@ -258,8 +265,11 @@ private:
                    "[--json]");
         } else if (command == "search") {
             expect(!operands.empty(), "WORD…");
-        } else if (command == "enable" || command == "disable" || command == "settings") {
+        } else if (command == "enable" || command == "disable") {
             expect(operands.size() == 1, "ID");
+        } else if (command == "settings") {
+            expect(operands.size() == 1 || (operands.size() == 4 && operands[1] == "set"),
+                   "ID [set LABEL VALUE]");
         } else if (command == "controls") {
             expect(operands.empty() ||
                        (operands.size() == 2 && (operands[0] == "add" || operands[0] == "remove")),
@@ -553,7 +563,10 @@ std::string CommandLine::usage() {
            "  controls                   the tools with a tile in the menu, in order\n"
            "  controls add ID            add a tool's tile at the end of the menu's grid\n"
            "  controls remove ID         remove a tool's tile\n"
-           "  settings ID                a tool's settings page, as text\n" +
+           "  settings ID                a tool's settings page, as text\n"
+           "  settings ID set LABEL VALUE\n"
+           "                             change the setting with that label: on/off, an\n"
+           "                             option, a number, a text, or +ID/-ID for app lists\n" +
            SnippetsCommand::usage() + EqCommand::usage() + KeysCommand::usage() +
            ClipboardCommand::usage() + LayoutsCommand::usage() + SpaceCommand::usage() +
            UninstallScanCommand::usage() + ArchiveCommand::usage() +

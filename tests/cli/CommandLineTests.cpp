@@ -148,6 +148,20 @@ TEST_F(CommandLineTest, SettingsPrintTheWindowToolsPages) {
     EXPECT_FALSE(std::filesystem::exists(host.file)) << "showing a page writes nothing";
 }
 
+TEST_F(CommandLineTest, SettingsSetChangesAnyToolsSettingByItsLabel) {
+    EXPECT_EQ(run({"settings", "keep-awake", "set", "keep the display on too", "maybe"}).status, 2);
+    EXPECT_FALSE(std::filesystem::exists(host.file)) << "a refused value writes nothing";
+    const auto set = run({"settings", "keep-awake", "set", "Keep the display on too", "on"});
+    ASSERT_EQ(set.status, 0) << set.err;
+    std::string error;
+    EXPECT_EQ(FilePreferences::open(host.file, error)->boolean("keepAwake.display"), true);
+    EXPECT_NE(run({"settings", "keep-awake"}).out.find("[x] Keep the display on too"),
+              std::string::npos);
+    const auto unknown = run({"settings", "keep-awake", "set", "Colour", "red"});
+    EXPECT_EQ(unknown.err, "quorvane: keep-awake: no setting is labelled \"Colour\"\n");
+    EXPECT_EQ(run({"settings", "keep-awake", "put", "Colour", "red"}).status, 2);
+}
+
 // A tool with a global shortcut, built on the command line's own platform.
 struct LauncherTool : RecordingTool {
     LauncherTool(std::vector<std::string>& journal, const Platform& platform)

@@ -2,6 +2,7 @@
 
 #include <sstream>
 
+#include "app/AdministratorCommand.hpp"
 #include "app/ToolRegistry.hpp"
 #include "platform/ChildProcessFailure.hpp"
 #include "platform/ChildProcesses.hpp"
@@ -98,8 +99,8 @@ void PowerScheduleTool::restore() {
     }
     const auto now = PowerSchedule::pmsetArguments(platform_.power.copyRepeatingPowerEvents());
     if (joined(now) != *original) {
-        const auto status =
-            platform_.childProcesses.run(kOsascript, privilegedCommand(words(*original)));
+        const auto status = AdministratorCommand::run(platform_.childProcesses, kPmset,
+                                                      words(*original), kPromptReason);
         if (!status.succeeded()) {
             lastError_ = "Putting your earlier schedule back failed: " +
                          childProcessFailure("osascript", status) +
@@ -111,8 +112,8 @@ void PowerScheduleTool::restore() {
 }
 
 bool PowerScheduleTool::apply(const RepeatingPowerEvents& events, const std::string& what) {
-    const auto status = platform_.childProcesses.run(
-        kOsascript, privilegedCommand(PowerSchedule::pmsetArguments(events)));
+    const auto status = AdministratorCommand::run(
+        platform_.childProcesses, kPmset, PowerSchedule::pmsetArguments(events), kPromptReason);
     if (!status.succeeded()) {
         lastError_ = what + " failed: " + childProcessFailure("osascript", status) +
                      " (or the password was cancelled).";
@@ -140,14 +141,6 @@ void PowerScheduleTool::store() const {
     prefs.set(kStopKey, PreferenceValue(PowerSchedule::rawValue(schedule_.stop)));
     prefs.set(kStopDaysKey, PreferenceValue(static_cast<std::int64_t>(schedule_.stopDays)));
     prefs.set(kStopTimeKey, PreferenceValue(static_cast<std::int64_t>(schedule_.stopMinutes)));
-}
-
-std::vector<std::string> PowerScheduleTool::privilegedCommand(
-    const std::vector<std::string>& pmset) {
-    // The arguments are pmset's own words, day letters and times made here, never text the
-    // user typed, so nothing in them needs quoting for the shell or AppleScript.
-    return {"-e", "do shell script \"" + std::string(kPmset) + " " + joined(pmset) +
-                      "\" with administrator privileges"};
 }
 
 }  // namespace quorvane

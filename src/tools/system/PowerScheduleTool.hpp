@@ -25,7 +25,9 @@ public:
     static constexpr const char* kStopTimeKey = "powerSchedule.stopTime";
     // The pmset arguments that restore the schedule found at start, until it is restored.
     static constexpr const char* kOriginalKey = "powerSchedule.original";
-    static constexpr const char* kOsascript = "/usr/bin/osascript";
+    // What the password window says the password is for.
+    static constexpr const char* kPromptReason =
+        "Quorvane wants to change when your Mac starts up and goes to sleep.";
     static constexpr const char* kPmset = "/usr/bin/pmset";
 
     PowerScheduleTool(const ToolDescriptor& descriptor, const Platform& platform);
@@ -40,9 +42,6 @@ public:
     const PowerSchedule& schedule() const { return schedule_; }
     void setSchedule(const PowerSchedule& schedule);
     const std::optional<std::string>& lastError() const { return lastError_; }
-    // The program and arguments that run pmset with these arguments as an administrator,
-    // through the system's authorisation prompt.
-    static std::vector<std::string> privilegedCommand(const std::vector<std::string>& pmset);
 
 private:
     void store() const;

@@ -1,6 +1,8 @@
 #include "tools/system/StartupItemsTool.hpp"
 
+#include "app/ToolRegistry.hpp"
 #include "platform/FileSystem.hpp"
+#include "platform/Preferences.hpp"
 #include "tools/system/StartupItems.hpp"
 
 namespace quorvane {
@@ -9,8 +11,26 @@ StartupItemsTool::StartupItemsTool(const ToolDescriptor& descriptor, const Platf
     : descriptor_(descriptor), platform_(platform) {}
 
 void StartupItemsTool::stop() {
+    // The registry also stops every tool when Quorvane quits; the user's choices stay then,
+    // and are undone only when the user turns the tool off.
+    if (!platform_.preferences.boolean(ToolRegistry::enabledKey(id())).value_or(false)) {
+        tidy();
+    }
     items_.clear();
     publish();
+}
+
+void StartupItemsTool::tidy() {
+    const std::string home = platform_.fileSystem.homeDirectory();
+    std::string failures;
+    for (const auto& item : StartupItems::list(platform_.fileSystem, home)) {
+        if (item.isUsers() && item.disabled) {
+            const std::string error =
+                StartupItems::setEnabled(platform_.fileSystem, home, item, true);
+            failures += error.empty() ? "" : (failures.empty() ? "" : "; ") + error;
+        }
+    }
+    lastError_ = failures;
 }
 
 void StartupItemsTool::reload() {
@@ -72,11 +92,13 @@ SettingsPage StartupItemsTool::settingsPage() {
                                "None."},
          {}});
     own.rows.push_back(
-        {SettingsRow::Note{"Switching an item off moves its file out of LaunchAgents, so it no "
-                           "longer starts from the next login; switching it on puts it back. "
-                           "Items of macOS itself are not shown. Items for all users need an "
-                           "administrator to change. Quorvane's own start at login is in "
-                           "General settings."},
+        {SettingsRow::Note{
+             "Switching an item off moves its file out of LaunchAgents, so it no "
+             "longer starts from the next login; switching it on, or turning this tool off, puts "
+             "it back. "
+             "Items of macOS itself are not shown. Items for all users need an "
+             "administrator to change. Quorvane's own start at login is in "
+             "General settings."},
          {}});
     own.rows.push_back({SettingsRow::Button{"Reload", [this] { reload(); }}, {}});
     own.rows.push_back({SettingsRow::Warning{lastError_}, [this] { return !lastError_.empty(); }});

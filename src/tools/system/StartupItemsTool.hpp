@@ -20,8 +20,10 @@ public:
     bool needsSetup() const override { return descriptor_.settingsOnly; }
     bool opensSettingsWhenTurnedOn() const override { return descriptor_.settingsOnly; }
     void start() override { reload(); }
+    // Turning the tool off switches every item it switched off back on.
     void stop() override;
     void refresh() override {}
+    void tidy() override;
     SettingsPage settingsPage() override;
 
     void reload();

@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
+#include "app/AdministratorCommand.hpp"
 #include "app/ToolRegistry.hpp"
 #include "cli/SettingsTextRenderer.hpp"
 #include "support/CatalogDescriptor.hpp"
@@ -58,7 +61,14 @@ struct PowerScheduleToolTest : ::testing::Test {
         return runs;
     }
     static std::string prompt(const std::string& pmset) {
-        return "do shell script \"/usr/bin/pmset " + pmset + "\" with administrator privileges";
+        std::vector<std::string> words;
+        for (std::size_t at = 0; at < pmset.size();) {
+            const std::size_t end = std::min(pmset.find(' ', at), pmset.size());
+            words.push_back(pmset.substr(at, end - at));
+            at = end + 1;
+        }
+        return AdministratorCommand::osascriptArguments(PowerScheduleTool::kPmset, words,
+                                                        PowerScheduleTool::kPromptReason)[1];
     }
 };
 

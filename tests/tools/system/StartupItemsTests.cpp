@@ -4,6 +4,8 @@
 
 #include <filesystem>
 
+#include "app/ToolRegistry.hpp"
+#include "platform/PreferenceValue.hpp"
 #include "portable/XmlPropertyList.hpp"
 #include "support/CatalogDescriptor.hpp"
 #include "support/FakePlatform.hpp"
@@ -122,6 +124,20 @@ TEST_F(StartupItemsTest, TheToolSwitchesAUsersItemOffByMovingItAsideAndBackOn) {
     EXPECT_TRUE(fs::exists(original));
     EXPECT_TRUE(tool.lastError().empty());
     EXPECT_FALSE(tool.setEnabled("com.nobody", false));
+
+    // Quitting keeps the user's choice; turning the tool off, or the clean-up of a tool that
+    // was turned off while Quorvane was not running, puts the item back.
+    toggle.set(false);
+    fakes.preferences.set(ToolRegistry::enabledKey("startup-items"), PreferenceValue(true));
+    tool.stop();
+    EXPECT_FALSE(fs::exists(original));
+    tool.tidy();
+    EXPECT_TRUE(fs::exists(original));
+    tool.start();
+    tool.setEnabled("com.maker.sync", false);
+    fakes.preferences.set(ToolRegistry::enabledKey("startup-items"), PreferenceValue(false));
+    tool.stop();
+    EXPECT_TRUE(fs::exists(original));
 }
 
 }  // namespace
