@@ -411,6 +411,7 @@ typedef NS_OPTIONS(NSUInteger, NSVolumeEnumerationOptions) {
 - (nullable NSArray<NSURL*>*)
     mountedVolumeURLsIncludingResourceValuesForKeys:(nullable NSArray<NSString*>*)propertyKeys
                                             options:(NSVolumeEnumerationOptions)options;
+@end
 // developer.apple.com/documentation/appkit/nscolorspace/srgb
 @interface NSColorSpace (QuorvaneSRGB)
 + (NSColorSpace*)sRGBColorSpace;
