@@ -104,7 +104,8 @@ void DefaultAppsTool::restoreAll() {
     }
     const auto changes = backup_.restorations(now);
     // Handlers already back, or with nothing to go back to, are done with.
-    for (const auto& [handler, original] : std::map(backup_.originals())) {
+    for (const auto& entry : std::map(backup_.originals())) {
+        const std::string& handler = entry.first;
         if (std::none_of(changes.begin(), changes.end(),
                          [&](const auto& change) { return change.first == handler; })) {
             backup_.drop(handler);

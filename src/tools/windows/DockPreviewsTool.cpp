@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cctype>
 #include <chrono>
-#include <cmath>
 
 #include "app/BringToFront.hpp"
 #include "input/InputServices.hpp"
@@ -38,7 +37,8 @@ DockPreviewsTool::DockPreviewsTool(const ToolDescriptor& descriptor, const Platf
       windows_(platform.accessibility),
       delay_(std::clamp(platform.preferences.integer(kDelayKey).value_or(kDefaultDelay),
                         std::int64_t{0}, kMaxDelay)),
-      engine_(milliseconds(delay_)) {}
+      engine_(milliseconds(delay_)),
+      pictures_(platform.screenCapture) {}
 
 void DockPreviewsTool::start() {
     stop();
@@ -50,7 +50,7 @@ void DockPreviewsTool::start() {
             const Row& row = rows_[shown[index]];
             drawn.title = row.title.empty() ? "Untitled window" : row.title;
             drawn.symbol = "macwindow";
-            drawn.thumbnail = row.picture;
+            drawn.thumbnail = pictures_.at(shown[index]);
             drawn.app = row.bundleID;
         }
         return drawn;
@@ -154,19 +154,12 @@ void DockPreviewsTool::open(const std::string& itemURL) {
         const auto app = platform_.workspace.runningApplication(pid);
         return app ? app->bundleURL : std::string();
     };
-    std::vector<std::optional<std::uint32_t>> numbers;
-    std::vector<Size> pictureSizes;
+    std::vector<OpenWindows::Window> shown;
     for (const std::size_t index :
          DockPreviewPlan::windowsToShow(itemURL, windows, bundleURLOf, order)) {
         const auto& window = windows[index];
-        rows_.push_back({window.pid, window.element, window.record.title, window.record.bundleID,
-                         std::nullopt});
-        numbers.push_back(DockPreviewPlan::windowNumber(window.pid, window.record.frame, order));
-        // The picture keeps the window's proportions inside the row's square.
-        const Size frame = window.record.frame.size;
-        const double longer = std::max({frame.width, frame.height, 1.0});
-        pictureSizes.push_back({std::max(2.0, std::round(kPicturePixels * frame.width / longer)),
-                                std::max(2.0, std::round(kPicturePixels * frame.height / longer))});
+        rows_.push_back({window.pid, window.element, window.record.title, window.record.bundleID});
+        shown.push_back(window);
     }
     if (rows_.empty() || !panel_ || !hoveredIcon_) {
         if (panel_) {
@@ -187,21 +180,7 @@ void DockPreviewsTool::open(const std::string& itemURL) {
     refreshPanel();
     // Flipping is its own inverse, so the same conversion takes the frame back to the screen.
     panel_->show(layout.toAccessibility(panelFrame_));
-    for (std::size_t i = 0; i < rows_.size(); ++i) {
-        if (!numbers[i]) {
-            continue;  // on another Space: listed without a picture
-        }
-        pictures_.push_back(platform_.screenCapture.captureImage(
-            {ScreenCapture::Target::Kind::window, *numbers[i], std::nullopt},
-            static_cast<int>(pictureSizes[i].width), static_cast<int>(pictureSizes[i].height),
-            [this, i](std::optional<Thumbnail> picture, const std::string&) {
-                // A missing picture leaves the row's symbol; the list itself is still right.
-                if (picture && i < rows_.size()) {
-                    rows_[i].picture = std::move(picture);
-                    refreshPanel();
-                }
-            }));
-    }
+    pictures_.take(shown, order, kPicturePixels, [this](std::size_t) { refreshPanel(); });
 }
 
 std::vector<std::size_t> DockPreviewsTool::visibleRows() const {

@@ -16,6 +16,7 @@
 #include "tools/windows/DockItems.hpp"
 #include "tools/windows/DockPreviewEngine.hpp"
 #include "tools/windows/OpenWindows.hpp"
+#include "tools/windows/WindowPictures.hpp"
 
 namespace quorvane {
 
@@ -52,7 +53,6 @@ private:
         Element element;
         std::string title;
         std::string bundleID;
-        std::optional<Thumbnail> picture;
     };
 
     void attach();
@@ -82,7 +82,7 @@ private:
     std::optional<Rect> hoveredIcon_;
     std::vector<Row> rows_;
     std::string query_;
-    std::vector<Subscription> pictures_;
+    WindowPictures pictures_;
     std::string lastError_;
 };
 

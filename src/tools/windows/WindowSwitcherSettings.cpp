@@ -13,8 +13,9 @@ SettingsPage WindowSwitcherTool::settingsPage() {
     main.rows.push_back(shortcut_.row("Switch windows"));
     main.rows.push_back(
         {SettingsRow::Note{
-             "The switcher names each window; it does not show pictures of them yet. Minimized "
-             "windows and windows on other desktops (Spaces) are left out."},
+             "Each window shows a picture taken through Screen Recording; a window that cannot "
+             "be captured shows a plain symbol instead. Minimized windows and windows on other "
+             "desktops (Spaces) are left out."},
          {}});
     main.rows.push_back({SettingsRow::Warning{lastError_}, [this] { return !lastError_.empty(); }});
     SettingsPage page;

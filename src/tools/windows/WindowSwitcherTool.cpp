@@ -7,6 +7,7 @@
 #include "platform/EventField.hpp"
 #include "platform/Screens.hpp"
 #include "platform/WindowList.hpp"
+#include "tools/windows/DisplayLayout.hpp"
 
 namespace quorvane {
 
@@ -27,7 +28,8 @@ WindowSwitcherTool::WindowSwitcherTool(const ToolDescriptor& descriptor, const P
       platform_(platform),
       windows_(platform.accessibility),
       shortcut_(
-          platform, kShortcutKey, defaultCombo(), [this] { pressed(); }, [this] { publish(); }) {}
+          platform, kShortcutKey, defaultCombo(), [this] { pressed(); }, [this] { publish(); }),
+      pictures_(platform.screenCapture) {}
 
 void WindowSwitcherTool::start() {
     stop();
@@ -37,6 +39,33 @@ void WindowSwitcherTool::start() {
         setLastError(EventTap::refusedError("watch the keyboard"));
         return;
     }
+    ListPanel::Handlers handlers;
+    handlers.row = [this](std::size_t index) {
+        ListPanelRow drawn;
+        if (index < listed_.size()) {
+            const WindowRecord& record = listed_[index].record;
+            drawn.title = record.title.empty() ? "Untitled window" : record.title;
+            drawn.symbol = "macwindow";
+            drawn.thumbnail = pictures_.at(index);
+            drawn.app = record.bundleID;
+            drawn.isSelected = index == engine_.selected();
+        }
+        return drawn;
+    };
+    handlers.rowClicked = [this](std::size_t index) {
+        if (engine_.isOpen() && index < listed_.size()) {
+            engine_.step(static_cast<int>(index) - static_cast<int>(engine_.selected()));
+            finish();
+        }
+    };
+    // Going elsewhere while the list is up is a change of mind, like Esc.
+    handlers.resignedKey = [this] {
+        if (engine_.isOpen()) {
+            engine_.cancel();
+            close();
+        }
+    };
+    panel_ = platform_.screens.makeListPanel(std::move(handlers));
     shortcut_.activate();
     setLastError({});
     publish();
@@ -46,10 +75,10 @@ void WindowSwitcherTool::stop() {
     shortcut_.deactivate();
     if (engine_.isOpen()) {
         engine_.cancel();
-        platform_.input.hud.hide();
     }
+    close();
+    panel_.reset();
     tap_.reset();
-    listed_.clear();
     publish();
 }
 
@@ -77,11 +106,22 @@ void WindowSwitcherTool::pressed() {
     for (const auto& window : listed_) {
         entries.push_back({window.record.appName, window.record.title});
     }
-    if (!engine_.open(std::move(entries))) {
+    if (!engine_.open(std::move(entries)) || !panel_) {
         platform_.screens.beep();
         return;
     }
     show();
+    const auto layout = DisplayLayout::read(platform_.screens, platform_.displayConfiguration);
+    if (layout.count() > 0) {
+        // In the middle of the main display, where ⌘⇥ shows its apps.
+        const Rect area = layout.visibleArea(0);
+        const Rect frame{{area.midX() - ListPanelContent::kWidth / 2,
+                          area.midY() - ListPanelContent::kHeight / 2},
+                         {ListPanelContent::kWidth, ListPanelContent::kHeight}};
+        // Flipping is its own inverse, so the same conversion takes the frame to the screen.
+        panel_->show(layout.toAccessibility(frame));
+    }
+    pictures_.take(listed_, order, kPicturePixels, [this](std::size_t) { show(); });
 }
 
 bool WindowSwitcherTool::handle(EventType type, Event& event) {
@@ -100,7 +140,7 @@ bool WindowSwitcherTool::handle(EventType type, Event& event) {
     const auto keyCode = event.integerField(eventField::keyboardKeycode);
     if (keyCode == KeyCombo::kEscapeKeyCode) {
         engine_.cancel();
-        platform_.input.hud.hide();
+        close();
         return false;
     }
     if (keyCode == kTabKeyCode) {
@@ -112,19 +152,34 @@ bool WindowSwitcherTool::handle(EventType type, Event& event) {
 }
 
 void WindowSwitcherTool::show() {
-    HUDCard card;
-    card.systemImage = kSymbol;
-    card.title = engine_.caption();
-    platform_.input.hud.show(card, false, kNoticeDuration, true);
+    if (!panel_) {
+        return;
+    }
+    ListPanelContent content;
+    content.placeholder = "Windows";
+    content.rowCount = listed_.size();
+    content.selection = engine_.selected();
+    content.footer = engine_.caption();
+    content.error = lastError_;
+    panel_->setContent(content);
+}
+
+void WindowSwitcherTool::close() {
+    pictures_.clear();
+    listed_.clear();
+    if (panel_ && panel_->isVisible()) {
+        panel_->close();
+    }
 }
 
 void WindowSwitcherTool::finish() {
     const auto picked = engine_.commit();
-    platform_.input.hud.hide();
     if (!picked || *picked >= listed_.size()) {
+        close();
         return;
     }
-    const auto& window = listed_[*picked];
+    const OpenWindows::Window window = listed_[*picked];
+    close();
     // The switch is the user's own doing, so focus guards let it through.
     platform_.input.userActionMark.date = platform_.scheduler.date();
     const std::int32_t status = windows_.raise(window.element);
@@ -132,7 +187,6 @@ void WindowSwitcherTool::finish() {
     setLastError(status == Accessibility::kSuccess
                      ? std::string()
                      : AccessibleWindows::failure("Couldn't bring the window forward", status));
-    listed_.clear();
 }
 
 void WindowSwitcherTool::setLastError(std::string error) {

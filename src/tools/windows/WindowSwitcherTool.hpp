@@ -8,23 +8,27 @@
 #include "app/ToolDescriptor.hpp"
 #include "input/EventTap.hpp"
 #include "input/ShortcutSetting.hpp"
+#include "platform/ListPanel.hpp"
 #include "platform/Platform.hpp"
 #include "platform/Scheduler.hpp"
 #include "tools/windows/AccessibleWindows.hpp"
 #include "tools/windows/OpenWindows.hpp"
+#include "tools/windows/WindowPictures.hpp"
 #include "tools/windows/WindowSwitcherEngine.hpp"
 
 namespace quorvane {
 
-// Switches between windows rather than apps: the shortcut (⌥⇥) opens a notice naming the
-// window behind the front one; each further ⇥ while the modifiers are held picks the next
-// (⇧⇥ the one before), and letting go brings the picked window forward.
+// Switches between windows rather than apps: the shortcut (⌥⇥) opens a list of every window,
+// front to back, each with its picture, on the window behind the front one; each further ⇥
+// while the modifiers are held picks the next (⇧⇥ the one before), a click picks one, and
+// letting go brings the picked window forward.
 class WindowSwitcherTool : public Tool {
 public:
     static constexpr const char* kShortcutKey = "windowSwitcher.shortcut";
     static constexpr std::uint32_t kTabKeyCode = 48;
     static constexpr const char* kSymbol = "rectangle.on.rectangle";
-    static constexpr Seconds kNoticeDuration{10.0};
+    // The longer side of a window's picture, in pixels: twice the row's thumbnail for Retina.
+    static constexpr int kPicturePixels = 56;
 
     WindowSwitcherTool(const ToolDescriptor& descriptor, const Platform& platform);
 
@@ -42,6 +46,7 @@ private:
     bool handle(EventType type, Event& event);
     void show();
     void finish();
+    void close();
     void setLastError(std::string error);
 
     const ToolDescriptor& descriptor_;
@@ -50,6 +55,8 @@ private:
     ShortcutSetting shortcut_;
     WindowSwitcherEngine engine_;
     std::vector<OpenWindows::Window> listed_;
+    std::unique_ptr<ListPanel> panel_;
+    WindowPictures pictures_;
     std::unique_ptr<EventTap> tap_;
     std::string lastError_;
 };

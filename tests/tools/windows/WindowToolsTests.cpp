@@ -505,18 +505,28 @@ TEST_F(WindowToolsTest, TheSwitcherGoesThroughWindowsFrontToBackAndSwitchesOnRel
         event.eventType = EventType::flagsChanged;
         fakes.events.deliver(*fakes.events.taps.at(0), EventType::flagsChanged, event);
     };
-    const auto caption = [&] { return fakes.screens.panels.at(0)->content.title; };
+    const auto picked = [&] {
+        const FakeListPanel& panel = *fakes.screens.listPanels.at(0);
+        const auto rows = panel.rows();
+        EXPECT_TRUE(rows.at(panel.content.selection).isSelected);
+        return rows.at(panel.content.selection).title;
+    };
 
     tool.pressed();
     ASSERT_TRUE(tool.isOpen());
-    EXPECT_EQ(caption().substr(0, caption().find('\n')), "Mail — Inbox")
-        << "the window behind the front one";
+    ASSERT_TRUE(fakes.screens.listPanels.at(0)->visible);
+    EXPECT_EQ(picked(), "Inbox") << "the window behind the front one";
+    EXPECT_EQ(fakes.screenCapture.captures.size(), 2u) << "a picture of each window";
+    EXPECT_EQ(fakes.screenCapture.captures[1].second, (Size{56, 42})) << "in its proportions";
+    fakes.screenCapture.settle();
+    EXPECT_TRUE(fakes.screens.listPanels[0]->rows()[1].thumbnail.has_value());
     EXPECT_FALSE(key(WindowSwitcherTool::kTabKeyCode, modifierFlag::option));
-    EXPECT_EQ(caption().substr(0, caption().find('\n')), "Editor — notes.txt");
+    EXPECT_EQ(picked(), "notes.txt");
     EXPECT_FALSE(key(WindowSwitcherTool::kTabKeyCode, modifierFlag::option | modifierFlag::shift));
     EXPECT_TRUE(key(0, modifierFlag::option)) << "other keys pass";
     release();
     EXPECT_FALSE(tool.isOpen());
+    EXPECT_FALSE(fakes.screens.listPanels[0]->visible);
     ASSERT_FALSE(fakes.accessibility.actions.empty());
     EXPECT_EQ(fakes.accessibility.actions.back(),
               (std::pair<Element, std::string>(inbox, "AXRaise")));
@@ -525,8 +535,19 @@ TEST_F(WindowToolsTest, TheSwitcherGoesThroughWindowsFrontToBackAndSwitchesOnRel
     EXPECT_FALSE(key(KeyCombo::kEscapeKeyCode, modifierFlag::option));
     release();
     EXPECT_EQ(fakes.accessibility.actions.size(), 1u) << "Esc stays";
-    EXPECT_FALSE(fakes.input.hud.isHeld());
-    (void)notes;
+    EXPECT_FALSE(fakes.screens.listPanels[0]->visible);
+
+    // A click picks a window at once; going elsewhere closes the list like Esc.
+    tool.pressed();
+    fakes.screens.listPanels[0]->handlers.rowClicked(0);
+    EXPECT_FALSE(tool.isOpen());
+    EXPECT_EQ(fakes.accessibility.actions.back(),
+              (std::pair<Element, std::string>(notes, "AXRaise")));
+    tool.pressed();
+    fakes.screenCapture.queue.clear();
+    fakes.screens.listPanels[0]->handlers.resignedKey();
+    EXPECT_FALSE(tool.isOpen());
+    EXPECT_EQ(fakes.accessibility.actions.size(), 2u);
     tool.stop();
 }
 
