@@ -3,6 +3,7 @@
 // Apple's documentation (developer.apple.com/documentation/iokit/<name>); looked up:
 // IOServiceGetMatchingService, IORegistryEntryCreateCFProperty, kIOMainPortDefault.
 #include <CoreFoundation/CoreFoundation.h>
+#include <stddef.h>
 #include <stdint.h>
 
 #ifdef __cplusplus
@@ -15,6 +16,8 @@ typedef mach_port_t io_object_t;
 typedef io_object_t io_iterator_t;
 typedef io_object_t io_registry_entry_t;
 typedef io_object_t io_service_t;
+typedef io_object_t io_connect_t;
+typedef mach_port_t task_port_t;
 typedef UInt32 IOOptionBits;
 typedef char io_name_t[128];
 typedef char io_string_t[512];
@@ -45,6 +48,14 @@ kern_return_t IORegistryEntrySetCFProperty(io_registry_entry_t entry, CFStringRe
 kern_return_t IOObjectRelease(io_object_t object);
 // Looked up: IORegistryEntryFromPath.
 io_registry_entry_t IORegistryEntryFromPath(mach_port_t mainPort, const io_string_t path);
+// A driver's user client (looked up: IOServiceOpen, IOServiceClose, IOConnectCallStructMethod;
+// owningTask is a task_port_t, the connection a mach_port_t).
+kern_return_t IOServiceOpen(io_service_t service, task_port_t owningTask, uint32_t type,
+                            io_connect_t* connect);
+kern_return_t IOServiceClose(io_connect_t connect);
+kern_return_t IOConnectCallStructMethod(mach_port_t connection, uint32_t selector,
+                                        const void* inputStruct, size_t inputStructCnt,
+                                        void* outputStruct, size_t* outputStructCnt);
 
 #ifdef __cplusplus
 }

@@ -4,7 +4,7 @@
 // IOPMAssertionRelease, IOPMAssertionID, IOPMAssertionLevel, kIOPMAssertionLevelOn;
 // IORegisterForSystemPower, IODeregisterForSystemPower, IOAllowPowerChange,
 // IOServiceInterestCallback, IONotificationPortGetRunLoopSource, IONotificationPortDestroy,
-// IOServiceClose, IOPMCopyRepeatingPowerEvents and the IOPMKeys.h keys it answers with.
+// IOPMCopyRepeatingPowerEvents and the IOPMKeys.h keys it answers with.
 #include <CoreFoundation/CoreFoundation.h>
 #include <stdint.h>
 
@@ -24,19 +24,16 @@ IOReturn IOPMAssertionCreateWithName(CFStringRef AssertionType, IOPMAssertionLev
                                      CFStringRef AssertionName, IOPMAssertionID* AssertionID);
 IOReturn IOPMAssertionRelease(IOPMAssertionID AssertionID);
 
-typedef io_object_t io_connect_t;
 typedef struct IONotificationPort* IONotificationPortRef;
-typedef void (*IOServiceInterestCallback)(void* refcon, io_service_t service,
-                                          uint32_t messageType, void* messageArgument);
+typedef void (*IOServiceInterestCallback)(void* refcon, io_service_t service, uint32_t messageType,
+                                          void* messageArgument);
 io_connect_t IORegisterForSystemPower(void* refcon, IONotificationPortRef* thePortRef,
-                                      IOServiceInterestCallback callback,
-                                      io_object_t* notifier);
+                                      IOServiceInterestCallback callback, io_object_t* notifier);
 IOReturn IODeregisterForSystemPower(io_object_t* notifier);
 IOReturn IOAllowPowerChange(io_connect_t kernelPort, intptr_t notificationID);
 CFRunLoopSourceRef IONotificationPortGetRunLoopSource(IONotificationPortRef notify)
     __attribute__((cf_returns_not_retained));
 void IONotificationPortDestroy(IONotificationPortRef notify);
-kern_return_t IOServiceClose(io_connect_t connect);
 CFDictionaryRef IOPMCopyRepeatingPowerEvents(void) __attribute__((cf_returns_retained));
 #pragma clang arc_cf_code_audited end
 

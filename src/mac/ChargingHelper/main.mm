@@ -1,0 +1,108 @@
+// Quorvane's charging helper: a launch daemon, started by launchd when the app connects to its
+// Mach service, that switches the battery's charging on or off for the app and nothing else.
+// It runs as root, so it trusts no input: the one request carries a yes or no, and only a
+// peer signed as Quorvane by the same team is heard at all.
+
+#import <Foundation/Foundation.h>
+
+#include <dispatch/dispatch.h>
+
+#include "mac/ChargingHelper/SmcChargingSwitch.hpp"
+#include "mac/ChargingHelperProtocol.h"
+
+#if !__has_feature(objc_arc)
+#error "Compile with -fobjc-arc"
+#endif
+
+// The team that signs Quorvane, given by the build (QUORVANE_DEVELOPMENT_TEAM). Without it no
+// peer can be checked, so every connection is refused.
+#ifndef QV_DEVELOPMENT_TEAM
+#define QV_DEVELOPMENT_TEAM ""
+#endif
+
+namespace {
+
+// Written in the code-signing requirement language; the team's identifier is the leaf
+// certificate's organisational unit.
+NSString* peerRequirement() {
+    return
+        [NSString stringWithFormat:@"identifier \"com.quorvane.app\" and anchor apple generic and "
+                                   @"certificate leaf[subject.OU] = \"%s\"",
+                                   QV_DEVELOPMENT_TEAM];
+}
+
+}  // namespace
+
+// Answers the app's requests. Exported objects are called on a queue of each connection's
+// own, so the controller is reached from one serial queue, which also keeps the count of
+// clients.
+@interface QVChargingHelperService : NSObject <NSXPCListenerDelegate, QVChargingHelper>
+@end
+
+@implementation QVChargingHelperService {
+    dispatch_queue_t queue_;
+    NSUInteger clients_;
+}
+
+- (instancetype)init {
+    if ((self = [super init])) {
+        queue_ =
+            dispatch_queue_create(QV_CHARGING_HELPER_SERVICE ".controller", DISPATCH_QUEUE_SERIAL);
+    }
+    return self;
+}
+
+- (BOOL)listener:(NSXPCListener*)listener
+    shouldAcceptNewConnection:(NSXPCConnection*)newConnection {
+    (void)listener;
+    if (sizeof(QV_DEVELOPMENT_TEAM) == 1) {
+        return NO;
+    }
+    // The requirement is checked by the system before any message is delivered; a peer that
+    // fails it is cut off, and its connection invalidated like any other.
+    [newConnection setCodeSigningRequirement:peerRequirement()];
+    newConnection.exportedInterface =
+        [NSXPCInterface interfaceWithProtocol:@protocol(QVChargingHelper)];
+    newConnection.exportedObject = self;
+    __weak QVChargingHelperService* weakSelf = self;
+    newConnection.invalidationHandler = ^{
+      [weakSelf clientLeft];
+    };
+    dispatch_async(queue_, ^{
+      ++self->clients_;
+    });
+    [newConnection resume];
+    return YES;
+}
+
+// The battery is never left held without Quorvane there to release it: when the last client
+// has gone (quit, crash or a rejected signature), charging is switched back on.
+- (void)clientLeft {
+    dispatch_async(queue_, ^{
+      if (self->clients_ > 0 && --self->clients_ == 0) {
+          quorvane::SmcChargingSwitch::setChargingEnabled(true);
+      }
+    });
+}
+
+- (void)setChargingEnabled:(BOOL)enabled reply:(void (^)(int status))reply {
+    const bool charge = enabled;
+    dispatch_async(queue_, ^{
+      reply(quorvane::SmcChargingSwitch::setChargingEnabled(charge));
+    });
+}
+
+@end
+
+int main() {
+    @autoreleasepool {
+        QVChargingHelperService* service = [[QVChargingHelperService alloc] init];
+        NSXPCListener* listener =
+            [[NSXPCListener alloc] initWithMachServiceName:@QV_CHARGING_HELPER_SERVICE];
+        listener.delegate = service;
+        [listener resume];
+        // launchd stops an idle daemon itself; the run loop serves the listener until then.
+        [[NSRunLoop currentRunLoop] run];
+    }
+    return 0;
+}
