@@ -59,7 +59,8 @@ NSString* peerRequirement() {
         return NO;
     }
     // The requirement is checked by the system before any message is delivered; a peer that
-    // fails it is cut off, and its connection invalidated like any other.
+    // fails it is cut off. unconfirmed: check on a Mac first (that its connection is then
+    // invalidated like any other, which keeps the count of clients right).
     [newConnection setCodeSigningRequirement:peerRequirement()];
     newConnection.exportedInterface =
         [NSXPCInterface interfaceWithProtocol:@protocol(QVChargingHelper)];
@@ -95,14 +96,13 @@ NSString* peerRequirement() {
 @end
 
 int main() {
-    @autoreleasepool {
-        QVChargingHelperService* service = [[QVChargingHelperService alloc] init];
-        NSXPCListener* listener =
-            [[NSXPCListener alloc] initWithMachServiceName:@QV_CHARGING_HELPER_SERVICE];
-        listener.delegate = service;
-        [listener resume];
-        // launchd stops an idle daemon itself; the run loop serves the listener until then.
-        [[NSRunLoop currentRunLoop] run];
-    }
-    return 0;
+    // The listener keeps only a weak reference to its delegate, and neither ever ends.
+    static QVChargingHelperService* service = [[QVChargingHelperService alloc] init];
+    static NSXPCListener* listener =
+        [[NSXPCListener alloc] initWithMachServiceName:@QV_CHARGING_HELPER_SERVICE];
+    listener.delegate = service;
+    [listener resume];
+    // Connections are served on dispatch queues; the main thread only waits, until launchd ends
+    // the process.
+    dispatch_main();
 }

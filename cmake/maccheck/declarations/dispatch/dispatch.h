@@ -38,6 +38,9 @@ dispatch_queue_t dispatch_get_global_queue(intptr_t identifier, uintptr_t flags)
 void dispatch_async(dispatch_queue_t queue, dispatch_block_t block);
 void dispatch_after(dispatch_time_t when, dispatch_queue_t queue, dispatch_block_t block);
 dispatch_time_t dispatch_time(dispatch_time_t when, int64_t delta);
+// Looked up: dispatch_main, which parks the main thread to serve the main queue and never
+// returns.
+void dispatch_main(void) __attribute__((noreturn));
 #ifdef __cplusplus
 }
 #endif
