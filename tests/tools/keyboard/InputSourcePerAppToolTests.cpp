@@ -91,7 +91,8 @@ TEST_F(InputSourcePerAppToolTest, AnUnreadableStoreIsNeverReplaced) {
     fakes.keyboardLayout.switchTo(kRussian);
     EXPECT_EQ(fakes.preferences.string(InputSourcePerAppTool::kSourcesKey), "not a dictionary");
     bool warned = false;
-    for (const auto& row : tool->settingsPage().sections.front().rows) {
+    const SettingsPage page = tool->settingsPage();
+    for (const auto& row : page.sections.front().rows) {
         warned |= std::holds_alternative<SettingsRow::Warning>(row.kind) && row.isVisible &&
                   row.isVisible();
     }
