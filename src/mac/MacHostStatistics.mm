@@ -11,6 +11,8 @@
 #include <sys/sysctl.h>
 #include <sys/types.h>
 
+#include "portable/DiskSpace.hpp"
+
 // unconfirmed: check on a Mac first. None of these calls is in the shared fact sheet; written
 // from the xnu manual pages and the SDK's documented declarations:
 // - host_statistics(host, HOST_CPU_LOAD_INFO, (host_info_t)&info, &count) with count
@@ -102,6 +104,13 @@ int MacHostStatistics::interfaces(std::vector<Interface>& interfaces) {
     }
     freeifaddrs(list);
     return 0;
+}
+
+int MacHostStatistics::disk(Disk& disk) {
+    // "/" is the sealed system volume, but every volume of the startup container shares its
+    // free space, which is what the figure is for. unconfirmed: check on a Mac first that
+    // f_blocks gives the container's size rather than the system volume's.
+    return readDiskSpace("/", disk);
 }
 
 }  // namespace quorvane

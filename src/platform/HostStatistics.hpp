@@ -34,11 +34,18 @@ public:
         std::uint32_t sentBytes = 0;
     };
 
+    // The startup volume: its size and the space apps can still fill.
+    struct Disk {
+        std::uint64_t totalBytes = 0;
+        std::uint64_t availableBytes = 0;
+    };
+
     virtual ~HostStatistics() = default;
 
     virtual int cpuTicks(CpuTicks& ticks) = 0;
     virtual int memory(Memory& memory) = 0;
     virtual int interfaces(std::vector<Interface>& interfaces) = 0;
+    virtual int disk(Disk& disk) = 0;
 };
 
 }  // namespace quorvane

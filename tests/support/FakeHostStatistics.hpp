@@ -27,6 +27,11 @@ struct FakeHostStatistics : HostStatistics {
         out = interfacesNow;
         return status;
     }
+    Disk diskNow{500'000'000'000, 125'000'000'000};
+    int disk(Disk& out) override {
+        out = diskNow;
+        return status;
+    }
 };
 
 }  // namespace quorvane

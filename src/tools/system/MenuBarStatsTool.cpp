@@ -28,6 +28,7 @@ MenuBarStatsTool::MenuBarStatsTool(const ToolDescriptor& descriptor, const Platf
       cpu_(platform.preferences.boolean(kCpuKey).value_or(true)),
       memory_(platform.preferences.boolean(kMemoryKey).value_or(true)),
       network_(platform.preferences.boolean(kNetworkKey).value_or(false)),
+      disk_(platform.preferences.boolean(kDiskKey).value_or(false)),
       panelContent_{PanelContent::Page{[this] { return panelPage(); }, this, 260}} {}
 
 MenuBarStatsTool::~MenuBarStatsTool() {
@@ -87,6 +88,10 @@ std::optional<StatsSample> MenuBarStatsTool::read() {
         lastError_ = failure("network's counters", status);
         return std::nullopt;
     }
+    if (const int status = host.disk(now.disk); status != 0) {
+        lastError_ = failure("disk's free space", status);
+        return std::nullopt;
+    }
     lastError_.reset();
     return now;
 }
@@ -109,17 +114,25 @@ void MenuBarStatsTool::showTitle() {
     }
     // Until two readings exist there is nothing honest to show but the symbol.
     panel_->statusItem().setTitle(
-        reading_ && !lastError_ ? SystemStats::title(*reading_, cpu_, memory_, network_) : "");
+        reading_ && !lastError_ ? SystemStats::title(*reading_, cpu_, memory_, network_, disk_)
+                                : "");
+}
+
+template <typename Self>
+auto& MenuBarStatsTool::part(Self& self, const char* key) {
+    const std::string_view which = key;
+    return which == kCpuKey      ? self.cpu_
+           : which == kMemoryKey ? self.memory_
+           : which == kDiskKey   ? self.disk_
+                                 : self.network_;
 }
 
 bool MenuBarStatsTool::shows(const char* key) const {
-    const std::string which = key;
-    return which == kCpuKey ? cpu_ : which == kMemoryKey ? memory_ : network_;
+    return part(*this, key);
 }
 
 void MenuBarStatsTool::setShows(const char* key, bool on) {
-    const std::string which = key;
-    (which == kCpuKey ? cpu_ : which == kMemoryKey ? memory_ : network_) = on;
+    part(*this, key) = on;
     platform_.preferences.set(key, PreferenceValue(on));
     showTitle();
     publish();
@@ -136,6 +149,7 @@ SettingsPage MenuBarStatsTool::settingsPage() {
     toggle("Processor", kCpuKey);
     toggle("Memory", kMemoryKey);
     toggle("Network", kNetworkKey);
+    toggle("Disk", kDiskKey);
     if (lastError_) {
         section.rows.push_back({SettingsRow::Warning{*lastError_}, {}});
     }
@@ -166,6 +180,8 @@ SettingsPage MenuBarStatsTool::panelPage() {
              gigabytes(reading_->memoryTotalBytes) + " in use");
         note("Network: ↓" + SystemStats::rate(reading_->receivedPerSecond) + " ↑" +
              SystemStats::rate(reading_->sentPerSecond));
+        note("Disk: " + gigabytes(reading_->diskTotalBytes - reading_->diskUsedBytes) +
+             " free of " + gigabytes(reading_->diskTotalBytes));
     }
     SettingsPage page;
     page.add(std::move(section));

@@ -22,6 +22,7 @@ public:
     static constexpr const char* kCpuKey = "menuBarStats.cpu";
     static constexpr const char* kMemoryKey = "menuBarStats.memory";
     static constexpr const char* kNetworkKey = "menuBarStats.network";
+    static constexpr const char* kDiskKey = "menuBarStats.disk";
     static constexpr Seconds kInterval{2.0};
     static constexpr const char* kItemImage = "cpu";
 
@@ -43,6 +44,9 @@ public:
     void setShows(const char* key, bool on);
 
 private:
+    // The flag of one part of the title, by its preference key.
+    template <typename Self>
+    static auto& part(Self& self, const char* key);
     void onScreenChanged();
     void sample();
     std::optional<StatsSample> read();
@@ -53,6 +57,7 @@ private:
     bool cpu_;
     bool memory_;
     bool network_;
+    bool disk_;
     std::optional<std::string> lastError_;
     std::optional<StatsSample> last_;
     std::optional<StatsReading> reading_;

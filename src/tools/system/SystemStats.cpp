@@ -23,6 +23,11 @@ StatsReading SystemStats::between(const StatsSample& before, const StatsSample& 
     reading.cpu = total > 0 ? busy / total : 0;
     reading.memoryUsedBytes = memoryUsed(after.memory);
     reading.memoryTotalBytes = static_cast<double>(after.memory.physicalBytes);
+    reading.diskTotalBytes = static_cast<double>(after.disk.totalBytes);
+    reading.diskUsedBytes =
+        after.disk.availableBytes < after.disk.totalBytes
+            ? static_cast<double>(after.disk.totalBytes - after.disk.availableBytes)
+            : 0;
     const double seconds = (after.at - before.at).count();
     if (seconds <= 0) {
         return reading;
@@ -76,7 +81,8 @@ std::string SystemStats::percent(double fraction) {
     return std::to_string(static_cast<int>(std::lround(clamped * 100))) + "%";
 }
 
-std::string SystemStats::title(const StatsReading& reading, bool cpu, bool memory, bool network) {
+std::string SystemStats::title(const StatsReading& reading, bool cpu, bool memory, bool network,
+                               bool disk) {
     std::string text;
     const auto add = [&text](const std::string& part) { text += (text.empty() ? "" : " ") + part; };
     if (cpu) {
@@ -89,6 +95,11 @@ std::string SystemStats::title(const StatsReading& reading, bool cpu, bool memor
     }
     if (network) {
         add("↓" + rate(reading.receivedPerSecond) + " ↑" + rate(reading.sentPerSecond));
+    }
+    if (disk) {
+        add("SSD " + percent(reading.diskTotalBytes > 0
+                                 ? reading.diskUsedBytes / reading.diskTotalBytes
+                                 : 0));
     }
     return text;
 }

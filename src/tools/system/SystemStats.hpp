@@ -15,16 +15,19 @@ struct StatsSample {
     HostStatistics::CpuTicks cpu;
     HostStatistics::Memory memory;
     std::vector<HostStatistics::Interface> interfaces;
+    HostStatistics::Disk disk;
 };
 
 // What the menu bar shows: the share of the processor in use and the network's speed over the
-// time between two samples, and the memory in use at the second.
+// time between two samples, and the memory and disk space in use at the second.
 struct StatsReading {
     double cpu = 0;  // 0…1
     double memoryUsedBytes = 0;
     double memoryTotalBytes = 0;
     double receivedPerSecond = 0;
     double sentPerSecond = 0;
+    double diskUsedBytes = 0;
+    double diskTotalBytes = 0;
 };
 
 struct SystemStats {
@@ -37,8 +40,9 @@ struct SystemStats {
     // "0 B/s", "512 B/s", "34 KB/s", "1.2 MB/s", "3.4 GB/s" (powers of 1000, as Finder shows).
     static std::string rate(double bytesPerSecond);
     static std::string percent(double fraction);
-    // The item's title: "CPU 12% MEM 63% ↓34 KB/s ↑1.2 MB/s", for the parts chosen.
-    static std::string title(const StatsReading& reading, bool cpu, bool memory, bool network);
+    // The item's title: "CPU 12% MEM 63% ↓34 KB/s ↑1.2 MB/s SSD 41%", for the parts chosen.
+    static std::string title(const StatsReading& reading, bool cpu, bool memory, bool network,
+                             bool disk);
 };
 
 }  // namespace quorvane

@@ -65,6 +65,11 @@ TEST_F(MenuBarStatsToolTest, TheChosenPartsMakeTheTitleAndAFailedReadingIsShown)
     EXPECT_EQ(fakes.preferences.boolean(MenuBarStatsTool::kCpuKey), false);
     EXPECT_NE(SettingsTextRenderer::render(tool.panelPage()).find("Network: ↓2.0 KB/s"),
               std::string::npos);
+    tool.setShows(MenuBarStatsTool::kDiskKey, true);
+    EXPECT_EQ(item().title, "MEM 0% ↓2.0 KB/s ↑1.0 KB/s SSD 75%");
+    EXPECT_NE(
+        SettingsTextRenderer::render(tool.panelPage()).find("Disk: 125.0 GB free of 500.0 GB"),
+        std::string::npos);
 
     fakes.hostStatistics.status = 5;  // KERN_FAILURE
     fakes.scheduler.advance(2s);

@@ -58,9 +58,11 @@ TEST(SystemStats, FormatsTheTitle) {
     EXPECT_EQ(SystemStats::rate(5e12), "5000 GB/s");
     EXPECT_EQ(SystemStats::percent(1.7), "100%");
     StatsReading reading{0.123, 8e9, 16e9, 34'400, 1'234'567};
-    EXPECT_EQ(SystemStats::title(reading, true, true, true), "CPU 12% MEM 50% ↓34 KB/s ↑1.2 MB/s");
-    EXPECT_EQ(SystemStats::title(reading, false, true, false), "MEM 50%");
-    EXPECT_EQ(SystemStats::title(StatsReading{}, false, true, false), "MEM 0%");
+    EXPECT_EQ(SystemStats::title(reading, true, true, true, false),
+              "CPU 12% MEM 50% ↓34 KB/s ↑1.2 MB/s");
+    EXPECT_EQ(SystemStats::title(reading, false, true, false, false), "MEM 50%");
+    EXPECT_EQ(SystemStats::title(StatsReading{}, false, true, false, true), "MEM 0% SSD 0%")
+        << "a disk that reported no size reads as empty, not as a division by zero";
 }
 
 }  // namespace
