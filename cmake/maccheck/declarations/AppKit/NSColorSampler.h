@@ -8,7 +8,8 @@ NS_ASSUME_NONNULL_BEGIN
 
 __attribute__((availability(macos, introduced = 10.15)))
 @interface NSColorSampler : NSObject
-- (void)showSamplerWithSelectionHandler:(void (^)(NSColor* _Nullable selectedColor))selectionHandler;
+- (void)showSamplerWithSelectionHandler:
+    (void (^)(NSColor* _Nullable selectedColor))selectionHandler;
 @end
 
 NS_ASSUME_NONNULL_END

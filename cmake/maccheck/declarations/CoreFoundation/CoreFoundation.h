@@ -231,8 +231,8 @@ typedef QV_CF_ENUM(CFIndex, CFPropertyListFormat){
     kCFPropertyListBinaryFormat_v1_0 = 200,
 };
 CFPropertyListRef CFPropertyListCreateWithData(CFAllocatorRef allocator, CFDataRef data,
-                                               CFOptionFlags options,
-                                               CFPropertyListFormat* format, CFErrorRef* error);
+                                               CFOptionFlags options, CFPropertyListFormat* format,
+                                               CFErrorRef* error);
 CFStringRef CFErrorCopyDescription(CFErrorRef err);
 
 #pragma clang arc_cf_code_audited end

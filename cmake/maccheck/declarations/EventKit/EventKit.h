@@ -21,8 +21,7 @@ typedef NS_ENUM(NSUInteger, EKEntityType) {
     EKEntityTypeEvent = 0,
     EKEntityTypeReminder = 1,
 };
-typedef void (^EKEventStoreRequestAccessCompletionHandler)(BOOL granted,
-                                                           NSError* _Nullable error);
+typedef void (^EKEventStoreRequestAccessCompletionHandler)(BOOL granted, NSError* _Nullable error);
 
 @interface EKCalendar : NSObject
 @property(null_unspecified, copy) NSString* title;
@@ -42,7 +41,8 @@ typedef void (^EKEventStoreRequestAccessCompletionHandler)(BOOL granted,
 @interface EKEventStore : NSObject
 + (EKAuthorizationStatus)authorizationStatusForEntityType:(EKEntityType)entityType;
 - (instancetype)init;
-- (void)requestFullAccessToEventsWithCompletion:(EKEventStoreRequestAccessCompletionHandler)completion;
+- (void)requestFullAccessToEventsWithCompletion:
+    (EKEventStoreRequestAccessCompletionHandler)completion;
 - (NSPredicate*)predicateForEventsWithStartDate:(NSDate*)startDate
                                         endDate:(NSDate*)endDate
                                       calendars:(nullable NSArray<EKCalendar*>*)calendars;

@@ -58,8 +58,7 @@ QV_MACOS(12.3)
 QV_MACOS(12.3)
 @interface SCContentFilter : NSObject
 - (instancetype)initWithDesktopIndependentWindow:(SCWindow*)window;
-- (instancetype)initWithDisplay:(SCDisplay*)display
-               excludingWindows:(NSArray<SCWindow*>*)excluded;
+- (instancetype)initWithDisplay:(SCDisplay*)display excludingWindows:(NSArray<SCWindow*>*)excluded;
 @property(readonly) float pointPixelScale QV_MACOS(14.0);
 @property(readonly) CGRect contentRect QV_MACOS(14.0);
 @end

@@ -51,8 +51,7 @@ typedef NS_ENUM(NSInteger, VNRequestTextRecognitionLevel) {
 @end
 
 @interface VNImageRequestHandler : NSObject
-- (instancetype)initWithCGImage:(CGImageRef)image
-                        options:(NSDictionary<NSString*, id>*)options;
+- (instancetype)initWithCGImage:(CGImageRef)image options:(NSDictionary<NSString*, id>*)options;
 - (BOOL)performRequests:(NSArray<VNRequest*>*)requests error:(NSError**)error;
 @end
 
