@@ -1,5 +1,6 @@
 #include <benchmark/benchmark.h>
 
+#include <cstring>
 #include <random>
 
 #include "support/TemporaryDirectory.hpp"
@@ -103,6 +104,21 @@ void BM_ClipboardSearch(benchmark::State& state) {
     benchmark::DoNotOptimize(shown);
 }
 BENCHMARK(BM_ClipboardSearch)->Arg(0)->Arg(1)->Arg(2)->Unit(benchmark::kMillisecond);
+
+// The floor for any search that must read every text: the C library's memchr looking for a
+// byte that no text holds.
+void BM_ClipboardReadEveryText(benchmark::State& state) {
+    std::size_t found = 0;
+    for (auto _ : state) {
+        for (const ClipItem& item : items()) {
+            if (item.text) {
+                found += std::memchr(item.text->data(), 1, item.text->size()) != nullptr;
+            }
+        }
+    }
+    benchmark::DoNotOptimize(found);
+}
+BENCHMARK(BM_ClipboardReadEveryText)->Unit(benchmark::kMillisecond);
 
 // What the search keys cost once, when the history is loaded: time, and their memory against
 // the texts'.

@@ -1,11 +1,11 @@
 #pragma once
 
-#include <bit>
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 #include <string>
 #include <string_view>
+
+#include "base/ByteBlock.hpp"
 
 namespace quorvane {
 
@@ -24,28 +24,15 @@ struct JsonWriter {
     // backslash, control character or byte of a multi-byte character. Inline: the reader and
     // the writer call it for every run of text between escapes.
     static std::size_t plainLength(std::string_view text) {
-        // Eight bytes at a time while none of them is special; each test is the usual "some
-        // byte is zero" trick, which is exact for the word as a whole.
-        constexpr std::uint64_t kOnes = 0x0101010101010101ULL;
-        constexpr std::uint64_t kHighBits = 0x8080808080808080ULL;
-        const auto hasZero = [](std::uint64_t v) { return (v - kOnes) & ~v & kHighBits; };
         const char* const data = text.data();
         const std::size_t size = text.size();
         std::size_t i = 0;
-        for (; i + sizeof(std::uint64_t) <= size; i += sizeof(std::uint64_t)) {
-            std::uint64_t word = 0;
-            std::memcpy(&word, data + i, sizeof word);
-            const std::uint64_t control = (word - kOnes * 0x20) & ~word & kHighBits;
-            const std::uint64_t special = (word & kHighBits) | control |
-                                          hasZero(word ^ (kOnes * '"')) |
-                                          hasZero(word ^ (kOnes * '\\'));
-            if (special != 0) {
-                // The tricks can only mark too much above a real hit, never below it, so on a
-                // little-endian machine the lowest mark is the first special byte.
-                if constexpr (std::endian::native == std::endian::little) {
-                    return i + static_cast<std::size_t>(std::countr_zero(special)) / 8;
-                }
-                break;
+        for (; i + ByteBlock::kSize <= size; i += ByteBlock::kSize) {
+            const ByteBlock::Bytes block = ByteBlock::load(data + i);
+            const auto special =
+                (block < 0x20) | (block >= 0x80) | (block == '"') | (block == '\\');
+            if (!ByteBlock::none(special)) {
+                return i + ByteBlock::firstMarked(special);
             }
         }
         for (; i < size; ++i) {

@@ -1,5 +1,7 @@
 #include "base/Utf8.hpp"
 
+#include "base/ByteBlock.hpp"
+
 namespace quorvane::utf8 {
 namespace {
 
@@ -69,6 +71,15 @@ bool isValid(std::string_view text) {
 std::size_t validPrefixLength(std::string_view text) {
     std::size_t pos = 0;
     while (pos < text.size()) {
+        // ASCII, the common case, sixteen bytes at a time.
+        if (pos + ByteBlock::kSize <= text.size()) {
+            const auto high = ByteBlock::load(text.data() + pos) >= 0x80;
+            if (ByteBlock::none(high)) {
+                pos += ByteBlock::kSize;
+                continue;
+            }
+            pos += ByteBlock::firstMarked(high);
+        }
         if (static_cast<unsigned char>(text[pos]) < 0x80) {
             ++pos;
             continue;

@@ -45,10 +45,11 @@ unsigned pairOf(unsigned char first, unsigned char second) {
 
 }  // namespace
 
-ClipSearchKey::Query::Query(std::string folded) : folded_(std::move(folded)) {
-    for (std::size_t i = 1; i < folded_.size(); ++i) {
-        pairs_.push_back(static_cast<std::uint16_t>(pairOf(
-            static_cast<unsigned char>(folded_[i - 1]), static_cast<unsigned char>(folded_[i]))));
+ClipSearchKey::Query::Query(std::string folded) : finder_(std::move(folded)) {
+    const std::string& text = finder_.folded();
+    for (std::size_t i = 1; i < text.size(); ++i) {
+        pairs_.push_back(static_cast<std::uint16_t>(
+            pairOf(static_cast<unsigned char>(text[i - 1]), static_cast<unsigned char>(text[i]))));
     }
     std::sort(pairs_.begin(), pairs_.end());
     pairs_.erase(std::unique(pairs_.begin(), pairs_.end()), pairs_.end());

@@ -5,6 +5,8 @@
 #include <string_view>
 #include <vector>
 
+#include "tools/keyboard/ClipTextFinder.hpp"
+
 namespace quorvane {
 
 // What the list's search needs to know about one text beforehand, so that each keystroke in
@@ -18,11 +20,12 @@ public:
     public:
         // `folded` comes from ClipText::fold.
         explicit Query(std::string folded);
-        const std::string& folded() const { return folded_; }
+        const std::string& folded() const { return finder_.folded(); }
+        const ClipTextFinder& finder() const { return finder_; }
 
     private:
         friend class ClipSearchKey;
-        std::string folded_;
+        ClipTextFinder finder_;
         std::vector<std::uint16_t> pairs_;
     };
 

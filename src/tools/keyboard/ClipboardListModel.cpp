@@ -42,13 +42,13 @@ bool ClipboardListModel::matches(std::size_t index, const ClipSearchKey::Query& 
     switch (item.kind) {
         case ClipItem::Kind::text:
             return item.text && items_->searchKey(index).mayContain(query) &&
-                   ClipText::contains(*item.text, query.folded());
+                   query.finder().foundIn(*item.text);
         case ClipItem::Kind::image:
             return imagesMatch;
         case ClipItem::Kind::files:
             if (item.filePaths) {
                 for (const auto& path : *item.filePaths) {
-                    if (ClipText::contains(fileName(path), query.folded())) {
+                    if (query.finder().foundIn(fileName(path))) {
                         return true;
                     }
                 }
@@ -71,7 +71,7 @@ void ClipboardListModel::filter() {
         }
     } else {
         const ClipSearchKey::Query query(ClipText::fold(trimmed));
-        const bool imagesMatch = ClipText::contains(kImageWords, query.folded());
+        const bool imagesMatch = query.finder().foundIn(kImageWords);
         for (std::size_t i = 0; i < items_->size(); ++i) {
             items_->readAhead(i);
             if (matches(i, query, imagesMatch)) {

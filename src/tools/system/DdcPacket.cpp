@@ -1,13 +1,16 @@
 #include "tools/system/DdcPacket.hpp"
 
+#include <algorithm>
+
 namespace quorvane {
 
 namespace {
 
 std::vector<std::uint8_t> message(std::vector<std::uint8_t> payload) {
-    std::vector<std::uint8_t> bytes;
-    bytes.push_back(static_cast<std::uint8_t>(0x80 | payload.size()));
-    bytes.insert(bytes.end(), payload.begin(), payload.end());
+    // Built in place: g++ 12 at -O2 misreads an insert into a one-byte vector as out of bounds.
+    std::vector<std::uint8_t> bytes(payload.size() + 1);
+    bytes[0] = static_cast<std::uint8_t>(0x80 | payload.size());
+    std::copy(payload.begin(), payload.end(), bytes.begin() + 1);
     std::uint8_t check = DdcPacket::kDisplayAddress ^ DdcPacket::kHostAddress;
     for (const auto byte : bytes) {
         check ^= byte;

@@ -11,7 +11,8 @@ constexpr std::array<const char*, 7> kDayNames = {"Mondays", "Tuesdays",  "Wedne
                                                   "Fridays", "Saturdays", "Sundays"};
 
 std::string clock(int minutes, bool seconds) {
-    char text[16];
+    // Room for any int, so the compiler can see nothing is cut.
+    char text[40];
     std::snprintf(text, sizeof text, seconds ? "%02d:%02d:00" : "%02d:%02d", minutes / 60,
                   minutes % 60);
     return text;
