@@ -48,10 +48,6 @@ namespace {
 // for the I/O procedures, which the HAL runs on its real-time thread.
 class MacAudioHardware final : public AudioHardware {
 public:
-    MacAudioHardware() : registrations_(std::make_unique<Registrations>()) {}
-
-    ~MacAudioHardware() override = default;
-
     OSStatus getPropertyDataSize(AudioObjectID object, const AudioPropertyAddress& address,
                                  std::uint32_t& outSize) override {
         const ::AudioObjectPropertyAddress hal = halAddress(address);
@@ -93,12 +89,12 @@ public:
 
     OSStatus addPropertyListener(AudioObjectID object, const AudioPropertyAddress& address,
                                  std::function<void()> handler, ListenerID& outListener) override {
-        auto listener = std::make_shared<Registrations::Listener>(std::move(handler));
+        auto listener = std::make_shared<Listener>(std::move(handler));
         AudioObjectPropertyListenerBlock block = ^(UInt32, const ::AudioObjectPropertyAddress*) {
           assert([NSThread isMainThread]);
           // The handler may remove this very listener; the local copy keeps it alive until it
           // returns.
-          const std::shared_ptr<Registrations::Listener> running = listener;
+          const std::shared_ptr<Listener> running = listener;
           if (!running->cancelled) {
               running->handler();
           }
@@ -107,16 +103,16 @@ public:
         const OSStatus status =
             AudioObjectAddPropertyListenerBlock(object, &hal, dispatch_get_main_queue(), block);
         if (status == noErr) {
-            outListener = registrations_->nextListener++;
-            registrations_->listeners.emplace(outListener, Registrations::Entry{block, listener});
+            outListener = nextListener_++;
+            listeners_.emplace(outListener, Entry{block, listener});
         }
         return status;
     }
 
     OSStatus removePropertyListener(AudioObjectID object, const AudioPropertyAddress& address,
                                     ListenerID listener) override {
-        const auto found = registrations_->listeners.find(listener);
-        if (found == registrations_->listeners.end()) {
+        const auto found = listeners_.find(listener);
+        if (found == listeners_.end()) {
             return kAudioHardwareIllegalOperationError;
         }
         // A notification already queued on the main queue must not reach a handler whose owner is
@@ -125,7 +121,7 @@ public:
         const ::AudioObjectPropertyAddress hal = halAddress(address);
         const OSStatus status = AudioObjectRemovePropertyListenerBlock(
             object, &hal, dispatch_get_main_queue(), found->second.block);
-        registrations_->listeners.erase(found);
+        listeners_.erase(found);
         return status;
     }
 
@@ -156,7 +152,7 @@ public:
             const OSStatus status = AudioHardwareCreateProcessTap(tap, &tapID);
             if (status == noErr) {
                 outTapID = tapID;
-                registrations_->taps[tapID] = tap;
+                taps_[tapID] = tap;
             }
             return status;
         }
@@ -164,9 +160,9 @@ public:
 
     OSStatus destroyProcessTap(AudioObjectID tap) override {
         // Kept alive until the tap is gone, then released on the main thread where it was made.
-        CATapDescription* description = registrations_->taps[tap];
-        registrations_->taps.erase(tap);
-        dispatch_async(registrations_->control, ^{
+        CATapDescription* description = taps_[tap];
+        taps_.erase(tap);
+        dispatch_async(control_, ^{
           AudioHardwareDestroyProcessTap(tap);
           dispatch_async(dispatch_get_main_queue(), ^{
             (void)description;
@@ -192,7 +188,7 @@ public:
     }
 
     OSStatus destroyAggregateDevice(AudioObjectID device) override {
-        dispatch_async(registrations_->control, ^{
+        dispatch_async(control_, ^{
           AudioHardwareDestroyAggregateDevice(device);
         });
         return noErr;
@@ -229,7 +225,7 @@ public:
     }
 
     OSStatus destroyIOProcID(AudioObjectID device, IOProcID proc) override {
-        dispatch_async(registrations_->control, ^{
+        dispatch_async(control_, ^{
           AudioDeviceDestroyIOProcID(device, reinterpret_cast<AudioDeviceIOProcID>(proc));
         });
         return noErr;
@@ -241,7 +237,7 @@ public:
     OSStatus startDevice(AudioObjectID device, IOProcID proc,
                          std::function<void(OSStatus)> failedLater) override {
         auto report = std::make_shared<std::function<void(OSStatus)>>(std::move(failedLater));
-        dispatch_async(registrations_->control, ^{
+        dispatch_async(control_, ^{
           const OSStatus status =
               AudioDeviceStart(device, reinterpret_cast<AudioDeviceIOProcID>(proc));
           if (status != noErr && *report) {
@@ -254,33 +250,30 @@ public:
     }
 
     OSStatus stopDevice(AudioObjectID device, IOProcID proc) override {
-        dispatch_async(registrations_->control, ^{
+        dispatch_async(control_, ^{
           AudioDeviceStop(device, reinterpret_cast<AudioDeviceIOProcID>(proc));
         });
         return noErr;
     }
 
 private:
-    struct Registrations {
-        // Shared by a listener block and its registration.
-        struct Listener {
-            explicit Listener(std::function<void()> body) : handler(std::move(body)) {}
-            bool cancelled = false;
-            std::function<void()> handler;
-        };
-        struct Entry {
-            AudioObjectPropertyListenerBlock block;
-            std::shared_ptr<Listener> listener;
-        };
-        std::map<ListenerID, Entry> listeners;
-        ListenerID nextListener = 1;
-        std::map<AudioObjectID, CATapDescription*> taps;
-        // Serial: a stop never overtakes the start before it, and a procedure is destroyed only
-        // after its device was stopped.
-        dispatch_queue_t control =
-            dispatch_queue_create("com.quorvane.app.audio-control", DISPATCH_QUEUE_SERIAL);
+    // Shared by a listener block and its registration.
+    struct Listener {
+        explicit Listener(std::function<void()> body) : handler(std::move(body)) {}
+        bool cancelled = false;
+        std::function<void()> handler;
     };
-    std::unique_ptr<Registrations> registrations_;
+    struct Entry {
+        AudioObjectPropertyListenerBlock block;
+        std::shared_ptr<Listener> listener;
+    };
+    std::map<ListenerID, Entry> listeners_;
+    ListenerID nextListener_ = 1;
+    std::map<AudioObjectID, CATapDescription*> taps_;
+    // Serial: a stop never overtakes the start before it, and a procedure is destroyed only
+    // after its device was stopped.
+    dispatch_queue_t control_ =
+        dispatch_queue_create("com.quorvane.app.audio-control", DISPATCH_QUEUE_SERIAL);
 };
 
 }  // namespace

@@ -22,20 +22,12 @@
 
 namespace quorvane {
 
-struct MacEventStore {
-    EKEventStore* store = [[EKEventStore alloc] init];
-};
-
 namespace {
 
 // EventKit's event store, kept for the app's lifetime as Apple advises (objects fetched from
 // one store cannot be used with another). Main thread only.
 class MacCalendarEvents final : public CalendarEvents {
 public:
-    MacCalendarEvents() : store_(std::make_unique<MacEventStore>()) {}
-
-    ~MacCalendarEvents() override = default;
-
     CalendarEvents::Access authorizationStatus() override {
         return static_cast<Access>(
             [EKEventStore authorizationStatusForEntityType:EKEntityTypeEvent]);
@@ -43,7 +35,7 @@ public:
 
     void requestFullAccess(std::function<void(bool granted, std::string error)> done) override {
         auto callback = std::make_shared<std::function<void(bool, std::string)>>(std::move(done));
-        [store_->store requestFullAccessToEventsWithCompletion:^(BOOL granted, NSError* error) {
+        [store_ requestFullAccessToEventsWithCompletion:^(BOOL granted, NSError* error) {
           const bool wasGranted = granted;
           NSString* reason = error.localizedDescription;
           runSoon(^{
@@ -54,7 +46,7 @@ public:
 
     std::vector<CalendarEvents::Event> events(double start, double end) override {
         std::vector<Event> result;
-        EKEventStore* store = store_->store;
+        EKEventStore* store = store_;
         NSPredicate* predicate = [store
             predicateForEventsWithStartDate:[NSDate dateWithTimeIntervalSinceReferenceDate:start]
                                     endDate:[NSDate dateWithTimeIntervalSinceReferenceDate:end]
@@ -70,12 +62,12 @@ public:
 
     Subscription observeChanges(std::function<void()> handler) override {
         return observeOnMainQueue([NSNotificationCenter defaultCenter],
-                                  EKEventStoreChangedNotification, store_ -> store,
+                                  EKEventStoreChangedNotification, store_,
                                   [handler = std::move(handler)](NSNotification*) { handler(); });
     }
 
 private:
-    std::unique_ptr<MacEventStore> store_;
+    EKEventStore* store_ = [[EKEventStore alloc] init];
 };
 
 }  // namespace

@@ -19,9 +19,8 @@ SMAppService* daemon() {
 // battery held.
 class MacChargingHelper final : public ChargingHelper {
 public:
-    MacChargingHelper() : connection_(std::make_unique<Connection>()) {}
-
-    ~MacChargingHelper() override { [connection_->connection invalidate]; }
+    MacChargingHelper() = default;
+    ~MacChargingHelper() override { [connection_ invalidate]; }
     MacChargingHelper(const MacChargingHelper&) = delete;
     MacChargingHelper& operator=(const MacChargingHelper&) = delete;
 
@@ -56,8 +55,8 @@ public:
     }
 
     int unregisterHelper() override {
-        [connection_->connection invalidate];
-        connection_->connection = nil;
+        [connection_ invalidate];
+        connection_ = nil;
         NSError* error = nil;
         if ([daemon() unregisterAndReturnError:&error]) {
             return 0;
@@ -66,7 +65,7 @@ public:
     }
 
     int setChargingEnabled(bool enabled) override {
-        if (!connection_->connection) {
+        if (!connection_) {
             // unconfirmed: check on a Mac first (NSXPCConnectionPrivileged for a daemon's Mach
             // service; the helper checks the caller's code signature before it obeys).
             NSXPCConnection* connection =
@@ -75,13 +74,13 @@ public:
             connection.remoteObjectInterface =
                 [NSXPCInterface interfaceWithProtocol:@protocol(QVChargingHelper)];
             [connection resume];
-            connection_->connection = connection;
+            connection_ = connection;
         }
         __block int status = kUnreachable;
         // The answer is awaited: the helper only writes two keys, and the tool decides its next
         // step on it. A connection that fails answers through the error handler instead.
-        id<QVChargingHelper> helper = [connection_->connection
-            synchronousRemoteObjectProxyWithErrorHandler:^(NSError* error) {
+        id<QVChargingHelper> helper =
+            [connection_ synchronousRemoteObjectProxyWithErrorHandler:^(NSError* error) {
               (void)error;
               status = kUnreachable;
             }];
@@ -91,17 +90,14 @@ public:
                              }];
         if (status == kUnreachable) {
             // A broken connection is made anew next time, e.g. after the helper was approved.
-            [connection_->connection invalidate];
-            connection_->connection = nil;
+            [connection_ invalidate];
+            connection_ = nil;
         }
         return status;
     }
 
 private:
-    struct Connection {
-        NSXPCConnection* connection = nil;
-    };
-    std::unique_ptr<Connection> connection_;
+    NSXPCConnection* connection_ = nil;
 };
 
 }  // namespace

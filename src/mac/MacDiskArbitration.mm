@@ -72,17 +72,16 @@ Subscription request(DASessionRef session, const std::string& bsdName,
 // Disk Arbitration through one session scheduled on the main run loop.
 class MacDiskArbitration final : public DiskArbitration {
 public:
-    MacDiskArbitration() : session_(std::make_unique<Session>()) {
-        session_->session = CFRef<DASessionRef>::adopt(DASessionCreate(kCFAllocatorDefault));
-        if (session_->session) {
-            DASessionScheduleWithRunLoop(session_->session.get(), CFRunLoopGetMain(),
-                                         kCFRunLoopCommonModes);
+    MacDiskArbitration()
+        : session_(CFRef<DASessionRef>::adopt(DASessionCreate(kCFAllocatorDefault))) {
+        if (session_) {
+            DASessionScheduleWithRunLoop(session_.get(), CFRunLoopGetMain(), kCFRunLoopCommonModes);
         }
     }
 
     ~MacDiskArbitration() override {
-        if (session_->session) {
-            DASessionUnscheduleFromRunLoop(session_->session.get(), CFRunLoopGetMain(),
+        if (session_) {
+            DASessionUnscheduleFromRunLoop(session_.get(), CFRunLoopGetMain(),
                                            kCFRunLoopCommonModes);
         }
     }
@@ -91,7 +90,7 @@ public:
 
     std::vector<DiskDescription> mountedVolumes() override {
         std::vector<DiskDescription> volumes;
-        if (!session_->session) {
+        if (!session_) {
             return volumes;
         }
         NSArray<NSURL*>* urls =
@@ -100,7 +99,7 @@ public:
         for (NSURL* url in urls) {
             // Volumes Disk Arbitration does not manage (devfs, some network mounts) give no disk.
             const auto disk = CFRef<DADiskRef>::adopt(DADiskCreateFromVolumePath(
-                kCFAllocatorDefault, session_->session.get(), (__bridge CFURLRef)url));
+                kCFAllocatorDefault, session_.get(), (__bridge CFURLRef)url));
             if (auto description = describeDisk(disk.get())) {
                 volumes.push_back(std::move(*description));
             }
@@ -109,36 +108,31 @@ public:
     }
 
     std::optional<DiskDescription> describe(const std::string& bsdName) override {
-        if (!session_->session) {
+        if (!session_) {
             return std::nullopt;
         }
         // unconfirmed: check on a Mac first (that a detached disk's BSD name gives no disk or
         // no description, rather than an empty one).
         const auto disk = CFRef<DADiskRef>::adopt(
-            DADiskCreateFromBSDName(kCFAllocatorDefault, session_->session.get(), bsdName.c_str()));
+            DADiskCreateFromBSDName(kCFAllocatorDefault, session_.get(), bsdName.c_str()));
         return describeDisk(disk.get());
     }
 
     Subscription unmount(const std::string& bsdName, Completion done) override {
-        return request(session_->session.get(), bsdName, std::move(done),
-                       [](DADiskRef disk, void* context) {
-                           DADiskUnmount(disk, kDADiskUnmountOptionDefault, &answered, context);
-                       });
+        return request(session_.get(), bsdName, std::move(done), [](DADiskRef disk, void* context) {
+            DADiskUnmount(disk, kDADiskUnmountOptionDefault, &answered, context);
+        });
     }
 
     Subscription mount(const std::string& bsdName, Completion done) override {
-        return request(
-            session_->session.get(), bsdName, std::move(done), [](DADiskRef disk, void* context) {
-                // No path: the volume goes back where Disk Arbitration mounts it by default.
-                DADiskMount(disk, nullptr, kDADiskMountOptionDefault, &answered, context);
-            });
+        return request(session_.get(), bsdName, std::move(done), [](DADiskRef disk, void* context) {
+            // No path: the volume goes back where Disk Arbitration mounts it by default.
+            DADiskMount(disk, nullptr, kDADiskMountOptionDefault, &answered, context);
+        });
     }
 
 private:
-    struct Session {
-        CFRef<DASessionRef> session;
-    };
-    std::unique_ptr<Session> session_;
+    CFRef<DASessionRef> session_;
 };
 
 }  // namespace
