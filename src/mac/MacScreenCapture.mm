@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "input/KeyCombo.hpp"
 #include "mac/CFRef.hpp"
 #include "mac/CancellableHandler.hpp"
 #include "mac/MacFrameworks.h"
@@ -268,8 +269,8 @@ __attribute__((availability(macos, introduced = 15.0)))
 
 - (void)mouseDragged:(NSEvent*)event {
     const NSPoint now = [self convertPoint:event.locationInWindow fromView:nil];
-    _selection = NSMakeRect(std::min(_start.x, now.x), std::min(_start.y, now.y),
-                            std::abs(now.x - _start.x), std::abs(now.y - _start.y));
+    _selection =
+        cgRect(Rect(_start.x, _start.y, now.x - _start.x, now.y - _start.y).standardized());
     [self setNeedsDisplay:YES];
 }
 
@@ -285,7 +286,7 @@ __attribute__((availability(macos, introduced = 15.0)))
 }
 
 - (void)keyDown:(NSEvent*)event {
-    if (event.keyCode == 53) {  // Esc
+    if (event.keyCode == quorvane::KeyCombo::kEscapeKeyCode) {
         self.finished(NSZeroRect, NO);
     }
 }
