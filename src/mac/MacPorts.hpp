@@ -26,8 +26,11 @@
 #include "platform/HostStatistics.hpp"
 #include "platform/HotKeySystem.hpp"
 #include "platform/KeyboardLayout.hpp"
+#include "platform/ListPanel.hpp"
 #include "platform/LoginItem.hpp"
 #include "platform/MenuBar.hpp"
+#include "platform/Overlay.hpp"
+#include "platform/Panel.hpp"
 #include "platform/Pasteboard.hpp"
 #include "platform/PermissionProbe.hpp"
 #include "platform/PowerManagement.hpp"
@@ -46,8 +49,8 @@
 
 namespace quorvane {
 
-// The macOS implementation of every port, one factory each. The classes live in their own .mm
-// files, so only the port interfaces are visible outside them.
+// The macOS implementation of every port, and of the objects ports make, one factory each. The
+// classes live in their own .mm files, so only the platform interfaces are visible outside them.
 std::unique_ptr<Accessibility> makeMacAccessibility();
 std::unique_ptr<AppInstance> makeMacAppInstance();
 std::unique_ptr<AppWindows> makeMacAppWindows();
@@ -72,8 +75,11 @@ std::unique_ptr<Hashing> makeMacHashing();
 std::unique_ptr<HostStatistics> makeMacHostStatistics();
 std::unique_ptr<HotKeySystem> makeMacHotKeySystem();
 std::unique_ptr<KeyboardLayout> makeMacKeyboardLayout(Workspace& workspace);
+std::unique_ptr<ListPanel> makeMacListPanel(ListPanel::Handlers handlers);
 std::unique_ptr<LoginItem> makeMacLoginItem();
 std::unique_ptr<MenuBar> makeMacMenuBar();
+std::unique_ptr<Overlay> makeMacOverlay();
+std::unique_ptr<Panel> makeMacPanel();
 std::unique_ptr<Pasteboard> makeMacPasteboard();
 std::unique_ptr<PermissionProbe> makeMacPermissionProbe();
 std::unique_ptr<PowerManagement> makeMacPowerManagement();

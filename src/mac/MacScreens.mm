@@ -1,10 +1,7 @@
 #include "mac/MacPorts.hpp"
 
 #include "mac/MacFrameworks.h"
-#include "mac/MacListPanel.hpp"
 #include "mac/CFRef.hpp"
-#include "mac/MacOverlay.hpp"
-#include "mac/MacPanel.hpp"
 
 // unconfirmed: check on a Mac first. +[NSScreen screens], +[NSScreen mainScreen], the frame and
 // visibleFrame properties and +[NSEvent mouseLocation] are not in the fact sheet; NSBeep is.
@@ -47,13 +44,13 @@ public:
 
     void beep() override { NSBeep(); }
 
-    std::unique_ptr<Panel> makeFloatingPanel() override { return std::make_unique<MacPanel>(); }
+    std::unique_ptr<Panel> makeFloatingPanel() override { return makeMacPanel(); }
 
     std::unique_ptr<ListPanel> makeListPanel(ListPanel::Handlers handlers) override {
-        return std::make_unique<MacListPanel>(std::move(handlers));
+        return makeMacListPanel(std::move(handlers));
     }
 
-    std::unique_ptr<Overlay> makeOverlay() override { return std::make_unique<MacOverlay>(); }
+    std::unique_ptr<Overlay> makeOverlay() override { return makeMacOverlay(); }
 
     // ⚠ No documented interface moves the Dock. The Dock follows the pointer when it keeps pushing
     // against a display's bottom edge; this posts that push as a few mouse-moved events at the edge
