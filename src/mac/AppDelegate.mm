@@ -4,58 +4,18 @@
 
 #include "app/AppLifecycle.hpp"
 #include "app/ToolCatalog.hpp"
-#include "mac/MacAppInstance.hpp"
-#include "mac/MacAppWindows.hpp"
-#include "mac/MacAudioHardware.hpp"
 #include "mac/MacFrameworks.h"
-#include "mac/MacLoginItem.hpp"
-#include "mac/MacMenuBar.hpp"
+#include "mac/MacPorts.hpp"
 #include "mac/MacNotificationBus.hpp"
-#include "mac/MacPermissionProbe.hpp"
-#include "mac/MacPreferenceDomains.hpp"
 #include "mac/MacPreferences.hpp"
-#include "mac/MacProcessFacts.hpp"
-#include "mac/MacScheduler.hpp"
 #include "mac/MacStrings.hpp"
-#include "mac/MacWorkspace.hpp"
 #include "platform/Platform.hpp"
 #include "portable/SpawnedChildProcesses.hpp"
 #include "ui/MenuModel.hpp"
 #include "input/InputServices.hpp"
-#include "mac/MacAccessibility.hpp"
-#include "mac/MacEventMonitors.hpp"
-#include "mac/MacEventSystem.hpp"
-#include "mac/MacHIDEventServices.hpp"
-#include "mac/MacHotKeySystem.hpp"
-#include "mac/MacKeyboardLayout.hpp"
-#include "mac/MacScreens.hpp"
-#include "mac/MacWindowList.hpp"
-#include "mac/MacPasteboard.hpp"
-#include "mac/MacDateFormatting.hpp"
-#include "mac/MacHashing.hpp"
-#include "mac/MacPowerManagement.hpp"
-#include "mac/MacHostStatistics.hpp"
-#include "mac/MacUserCalendar.hpp"
-#include "mac/MacCalendarEvents.hpp"
-#include "mac/MacDisplayControl.hpp"
-#include "mac/MacThumbnails.hpp"
-#include "mac/MacDisplayConfiguration.hpp"
-#include "mac/MacSystemLog.hpp"
-#include "mac/MacFileSystem.hpp"
-#include "mac/MacFinderExtensionChannel.hpp"
 #include "portable/SystemArchives.hpp"
 #include "app/ToolRegistry.hpp"
 #include "tools/system/ArchivesTool.hpp"
-#include "mac/MacScreenCapture.hpp"
-#include "mac/MacTextRecognition.hpp"
-#include "mac/MacColorSampler.hpp"
-#include "mac/MacFirmwareVariables.hpp"
-#include "mac/MacFileIcons.hpp"
-#include "mac/MacDefaultApplications.hpp"
-#include "mac/MacPowerSources.hpp"
-#include "mac/MacChargingHelper.hpp"
-#include "mac/MacDiskArbitration.hpp"
-#include "mac/MacHIDBatteries.hpp"
 
 namespace quorvane {
 
@@ -64,98 +24,98 @@ namespace quorvane {
 // reverse, so each outlives its users.
 struct AppState {
     MacPreferences preferences;
-    MacScheduler scheduler;
-    MacPermissionProbe permissionProbe;
-    MacWorkspace workspace;
+    std::unique_ptr<Scheduler> scheduler = makeMacScheduler();
+    std::unique_ptr<PermissionProbe> permissionProbe = makeMacPermissionProbe();
+    std::unique_ptr<Workspace> workspace = makeMacWorkspace();
     MacNotificationBus notifications{MacNotificationBus::Mode::inApplication};
-    MacEventSystem events;
-    MacHotKeySystem hotKeys;
-    MacAccessibility accessibility;
-    MacEventMonitors eventMonitors;
-    MacScreens screens;
-    MacMenuBar menuBar;
-    MacAudioHardware audioHardware;
-    MacProcessFacts processFacts;
-    InputServices input{hotKeys, screens, scheduler};
-    MacKeyboardLayout keyboardLayout{workspace};
-    MacWindowList windowList;
-    MacPreferenceDomains preferenceDomains;
+    std::unique_ptr<EventSystem> events = makeMacEventSystem();
+    std::unique_ptr<HotKeySystem> hotKeys = makeMacHotKeySystem();
+    std::unique_ptr<Accessibility> accessibility = makeMacAccessibility();
+    std::unique_ptr<EventMonitors> eventMonitors = makeMacEventMonitors();
+    std::unique_ptr<Screens> screens = makeMacScreens();
+    std::unique_ptr<MenuBar> menuBar = makeMacMenuBar();
+    std::unique_ptr<AudioHardware> audioHardware = makeMacAudioHardware();
+    std::unique_ptr<ProcessFacts> processFacts = makeMacProcessFacts();
+    InputServices input{*hotKeys, *screens, *scheduler};
+    std::unique_ptr<KeyboardLayout> keyboardLayout = makeMacKeyboardLayout(*workspace);
+    std::unique_ptr<WindowList> windowList = makeMacWindowList();
+    std::unique_ptr<PreferenceDomains> preferenceDomains = makeMacPreferenceDomains();
     // posix_spawn is plain POSIX, so the portable runner is the Mac one too.
     SpawnedChildProcesses childProcesses;
-    MacHIDEventServices hidEventServices;
-    MacPasteboard pasteboard;
-    MacThumbnails thumbnails;
-    MacHashing hashing;
-    MacDateFormatting dateFormatting;
-    MacDisplayConfiguration displayConfiguration;
-    MacSystemLog systemLog;
-    MacPowerManagement power;
-    MacFileSystem fileSystem;
+    std::unique_ptr<HIDEventServices> hidEventServices = makeMacHIDEventServices();
+    std::unique_ptr<Pasteboard> pasteboard = makeMacPasteboard();
+    std::unique_ptr<Thumbnails> thumbnails = makeMacThumbnails();
+    std::unique_ptr<Hashing> hashing = makeMacHashing();
+    std::unique_ptr<DateFormatting> dateFormatting = makeMacDateFormatting();
+    std::unique_ptr<DisplayConfiguration> displayConfiguration = makeMacDisplayConfiguration();
+    std::unique_ptr<SystemLog> systemLog = makeMacSystemLog();
+    std::unique_ptr<PowerManagement> power = makeMacPowerManagement();
+    std::unique_ptr<FileSystem> fileSystem = makeMacFileSystem();
     // The system's libarchive, through the same code as everywhere else.
     std::unique_ptr<Archives> archives = makeSystemArchives();
-    MacFinderExtensionChannel finderExtension;
-    MacScreenCapture screenCapture;
-    MacTextRecognition textRecognition;
-    MacColorSampler colorSampler;
-    MacFirmwareVariables firmwareVariables;
-    MacFileIcons fileIcons;
-    MacDefaultApplications defaultApplications;
-    MacHostStatistics hostStatistics;
-    MacUserCalendar userCalendar;
-    MacCalendarEvents calendarEvents;
-    MacDisplayControl displayControl;
-    MacPowerSources powerSources;
-    MacChargingHelper chargingHelper;
-    MacDiskArbitration diskArbitration;
-    MacHIDBatteries hidBatteries;
+    std::unique_ptr<FinderExtensionChannel> finderExtension = makeMacFinderExtensionChannel();
+    std::unique_ptr<ScreenCapture> screenCapture = makeMacScreenCapture();
+    std::unique_ptr<TextRecognition> textRecognition = makeMacTextRecognition();
+    std::unique_ptr<ColorSampler> colorSampler = makeMacColorSampler();
+    std::unique_ptr<FirmwareVariables> firmwareVariables = makeMacFirmwareVariables();
+    std::unique_ptr<FileIcons> fileIcons = makeMacFileIcons();
+    std::unique_ptr<DefaultApplications> defaultApplications = makeMacDefaultApplications();
+    std::unique_ptr<HostStatistics> hostStatistics = makeMacHostStatistics();
+    std::unique_ptr<UserCalendar> userCalendar = makeMacUserCalendar();
+    std::unique_ptr<CalendarEvents> calendarEvents = makeMacCalendarEvents();
+    std::unique_ptr<DisplayControl> displayControl = makeMacDisplayControl();
+    std::unique_ptr<PowerSources> powerSources = makeMacPowerSources();
+    std::unique_ptr<ChargingHelper> chargingHelper = makeMacChargingHelper();
+    std::unique_ptr<DiskArbitration> diskArbitration = makeMacDiskArbitration();
+    std::unique_ptr<HIDBatteries> hidBatteries = makeMacHIDBatteries();
 
     Platform platform{preferences,
-                      scheduler,
-                      permissionProbe,
-                      workspace,
+                      *scheduler,
+                      *permissionProbe,
+                      *workspace,
                       notifications,
-                      events,
-                      hotKeys,
-                      accessibility,
-                      eventMonitors,
-                      screens,
-                      menuBar,
-                      audioHardware,
-                      processFacts,
+                      *events,
+                      *hotKeys,
+                      *accessibility,
+                      *eventMonitors,
+                      *screens,
+                      *menuBar,
+                      *audioHardware,
+                      *processFacts,
                       input,
-                      keyboardLayout,
-                      windowList,
-                      preferenceDomains,
+                      *keyboardLayout,
+                      *windowList,
+                      *preferenceDomains,
                       childProcesses,
-                      hidEventServices,
-                      pasteboard,
-                      thumbnails,
-                      hashing,
-                      dateFormatting,
-                      displayConfiguration,
-                      systemLog,
-                      power,
-                      fileSystem,
+                      *hidEventServices,
+                      *pasteboard,
+                      *thumbnails,
+                      *hashing,
+                      *dateFormatting,
+                      *displayConfiguration,
+                      *systemLog,
+                      *power,
+                      *fileSystem,
                       *archives,
-                      finderExtension,
-                      screenCapture,
-                      textRecognition,
-                      colorSampler,
-                      firmwareVariables,
-                      fileIcons,
-                      defaultApplications,
-                      hostStatistics,
-                      userCalendar,
-                      calendarEvents,
-                      displayControl,
-                      powerSources,
-                      chargingHelper,
-                      diskArbitration,
-                      hidBatteries};
-    MacAppWindows windows;
-    MacAppInstance instance;
-    MacLoginItem loginItem;
-    AppLifecycle lifecycle{platform, {windows, instance, loginItem}, ToolCatalog::makeTools};
+                      *finderExtension,
+                      *screenCapture,
+                      *textRecognition,
+                      *colorSampler,
+                      *firmwareVariables,
+                      *fileIcons,
+                      *defaultApplications,
+                      *hostStatistics,
+                      *userCalendar,
+                      *calendarEvents,
+                      *displayControl,
+                      *powerSources,
+                      *chargingHelper,
+                      *diskArbitration,
+                      *hidBatteries};
+    std::unique_ptr<AppWindows> windows = makeMacAppWindows();
+    std::unique_ptr<AppInstance> instance = makeMacAppInstance();
+    std::unique_ptr<LoginItem> loginItem = makeMacLoginItem();
+    AppLifecycle lifecycle{platform, {*windows, *instance, *loginItem}, ToolCatalog::makeTools};
 };
 
 }  // namespace quorvane

@@ -1,4 +1,4 @@
-#include "mac/MacAccessibility.hpp"
+#include "mac/MacPorts.hpp"
 
 #include <cassert>
 #include <cstddef>
@@ -205,102 +205,108 @@ std::int32_t adoptCopiedValue(AXError status, CFTypeRef raw, AccessibilityValue&
     return readCopiedValue(status, AXObjects(), owned.get(), value);
 }
 
+// The accessibility API of HIServices. Elements are AXUIElementRefs held by reference count.
+class MacAccessibility final : public Accessibility {
+public:
+    Element systemWide() override {
+        return makeElement(CFRef<AXUIElementRef>::adopt(AXUIElementCreateSystemWide()));
+    }
+
+    Element application(int pid) override {
+        return makeElement(CFRef<AXUIElementRef>::adopt(AXUIElementCreateApplication(pid)));
+    }
+
+    std::int32_t copyAttribute(const Element& element, std::string_view attribute,
+                               AccessibilityValue& value) override {
+        const AXUIElementRef ref = refOf(element);
+        const CFRef<CFStringRef> name = makeCFString(attribute);
+        if (!ref || !name) {
+            return kAXErrorIllegalArgument;
+        }
+        CFTypeRef raw = nullptr;
+        const AXError status = AXUIElementCopyAttributeValue(ref, name.get(), &raw);
+        return adoptCopiedValue(status, raw, value);
+    }
+
+    std::int32_t copyParameterizedAttribute(const Element& element, std::string_view attribute,
+                                            const AccessibilityValue& parameter,
+                                            AccessibilityValue& value) override {
+        const AXUIElementRef ref = refOf(element);
+        const CFRef<CFStringRef> name = makeCFString(attribute);
+        const CFRef<CFTypeRef> cfParameter = toCF(parameter);
+        if (!ref || !name || !cfParameter) {
+            return kAXErrorIllegalArgument;
+        }
+        CFTypeRef raw = nullptr;
+        const AXError status =
+            AXUIElementCopyParameterizedAttributeValue(ref, name.get(), cfParameter.get(), &raw);
+        return adoptCopiedValue(status, raw, value);
+    }
+
+    std::int32_t setAttribute(const Element& element, std::string_view attribute,
+                              const AccessibilityValue& value) override {
+        const AXUIElementRef ref = refOf(element);
+        const CFRef<CFStringRef> name = makeCFString(attribute);
+        const CFRef<CFTypeRef> cfValue = toCF(value);
+        if (!ref || !name || !cfValue) {
+            return kAXErrorIllegalArgument;
+        }
+        return AXUIElementSetAttributeValue(ref, name.get(), cfValue.get());
+    }
+
+    std::int32_t elementAtPosition(const Element& application, float x, float y,
+                                   Element& element) override {
+        const AXUIElementRef ref = refOf(application);
+        if (!ref) {
+            return kAXErrorIllegalArgument;
+        }
+        AXUIElementRef found = nullptr;
+        const AXError status = AXUIElementCopyElementAtPosition(ref, x, y, &found);
+        auto owned = CFRef<AXUIElementRef>::adopt(found);
+        if (status == kAXErrorSuccess) {
+            element = makeElement(std::move(owned));
+        }
+        return status;
+    }
+
+    std::int32_t pid(const Element& element, int& pid) override {
+        const AXUIElementRef ref = refOf(element);
+        if (!ref) {
+            return kAXErrorIllegalArgument;
+        }
+        pid_t value = 0;
+        const AXError status = AXUIElementGetPid(ref, &value);
+        pid = static_cast<int>(value);
+        return status;
+    }
+
+    std::int32_t performAction(const Element& element, std::string_view action) override {
+        const AXUIElementRef ref = refOf(element);
+        const CFRef<CFStringRef> name = makeCFString(action);
+        if (!ref || !name) {
+            return kAXErrorIllegalArgument;
+        }
+        return AXUIElementPerformAction(ref, name.get());
+    }
+
+    std::int32_t setMessagingTimeout(const Element& element, float seconds) override {
+        const AXUIElementRef ref = refOf(element);
+        if (!ref) {
+            return kAXErrorIllegalArgument;
+        }
+        return AXUIElementSetMessagingTimeout(ref, seconds);
+    }
+
+    std::unique_ptr<AccessibilityObserver> createObserver(int pid, ObserverCallback callback,
+                                                          std::int32_t& status) override {
+        return MacAccessibilityObserver::create(pid, std::move(callback), status);
+    }
+};
+
 }  // namespace
 
-Element MacAccessibility::systemWide() {
-    return makeElement(CFRef<AXUIElementRef>::adopt(AXUIElementCreateSystemWide()));
-}
-
-Element MacAccessibility::application(int pid) {
-    return makeElement(CFRef<AXUIElementRef>::adopt(AXUIElementCreateApplication(pid)));
-}
-
-std::int32_t MacAccessibility::copyAttribute(const Element& element, std::string_view attribute,
-                                             AccessibilityValue& value) {
-    const AXUIElementRef ref = refOf(element);
-    const CFRef<CFStringRef> name = makeCFString(attribute);
-    if (!ref || !name) {
-        return kAXErrorIllegalArgument;
-    }
-    CFTypeRef raw = nullptr;
-    const AXError status = AXUIElementCopyAttributeValue(ref, name.get(), &raw);
-    return adoptCopiedValue(status, raw, value);
-}
-
-std::int32_t MacAccessibility::copyParameterizedAttribute(const Element& element,
-                                                          std::string_view attribute,
-                                                          const AccessibilityValue& parameter,
-                                                          AccessibilityValue& value) {
-    const AXUIElementRef ref = refOf(element);
-    const CFRef<CFStringRef> name = makeCFString(attribute);
-    const CFRef<CFTypeRef> cfParameter = toCF(parameter);
-    if (!ref || !name || !cfParameter) {
-        return kAXErrorIllegalArgument;
-    }
-    CFTypeRef raw = nullptr;
-    const AXError status =
-        AXUIElementCopyParameterizedAttributeValue(ref, name.get(), cfParameter.get(), &raw);
-    return adoptCopiedValue(status, raw, value);
-}
-
-std::int32_t MacAccessibility::setAttribute(const Element& element, std::string_view attribute,
-                                            const AccessibilityValue& value) {
-    const AXUIElementRef ref = refOf(element);
-    const CFRef<CFStringRef> name = makeCFString(attribute);
-    const CFRef<CFTypeRef> cfValue = toCF(value);
-    if (!ref || !name || !cfValue) {
-        return kAXErrorIllegalArgument;
-    }
-    return AXUIElementSetAttributeValue(ref, name.get(), cfValue.get());
-}
-
-std::int32_t MacAccessibility::elementAtPosition(const Element& application, float x, float y,
-                                                 Element& element) {
-    const AXUIElementRef ref = refOf(application);
-    if (!ref) {
-        return kAXErrorIllegalArgument;
-    }
-    AXUIElementRef found = nullptr;
-    const AXError status = AXUIElementCopyElementAtPosition(ref, x, y, &found);
-    auto owned = CFRef<AXUIElementRef>::adopt(found);
-    if (status == kAXErrorSuccess) {
-        element = makeElement(std::move(owned));
-    }
-    return status;
-}
-
-std::int32_t MacAccessibility::pid(const Element& element, int& pid) {
-    const AXUIElementRef ref = refOf(element);
-    if (!ref) {
-        return kAXErrorIllegalArgument;
-    }
-    pid_t value = 0;
-    const AXError status = AXUIElementGetPid(ref, &value);
-    pid = static_cast<int>(value);
-    return status;
-}
-
-std::int32_t MacAccessibility::performAction(const Element& element, std::string_view action) {
-    const AXUIElementRef ref = refOf(element);
-    const CFRef<CFStringRef> name = makeCFString(action);
-    if (!ref || !name) {
-        return kAXErrorIllegalArgument;
-    }
-    return AXUIElementPerformAction(ref, name.get());
-}
-
-std::int32_t MacAccessibility::setMessagingTimeout(const Element& element, float seconds) {
-    const AXUIElementRef ref = refOf(element);
-    if (!ref) {
-        return kAXErrorIllegalArgument;
-    }
-    return AXUIElementSetMessagingTimeout(ref, seconds);
-}
-
-std::unique_ptr<AccessibilityObserver> MacAccessibility::createObserver(int pid,
-                                                                        ObserverCallback callback,
-                                                                        std::int32_t& status) {
-    return MacAccessibilityObserver::create(pid, std::move(callback), status);
+std::unique_ptr<Accessibility> makeMacAccessibility() {
+    return std::make_unique<MacAccessibility>();
 }
 
 }  // namespace quorvane

@@ -1,4 +1,6 @@
-#include "mac/MacAppWindows.hpp"
+#include "mac/MacPorts.hpp"
+
+#include <memory>
 
 #include "mac/MacFirstRunWindow.hpp"
 #include "mac/MacFrameworks.h"
@@ -6,15 +8,6 @@
 #include "mac/MacViews.hpp"
 
 namespace quorvane {
-
-struct MacAppWindows::Controllers {
-    QVSettingsWindowController* settings = nil;
-    QVFirstRunWindowController* firstRun = nil;
-};
-
-MacAppWindows::MacAppWindows() : controllers_(std::make_unique<Controllers>()) {}
-
-MacAppWindows::~MacAppWindows() = default;
 
 namespace {
 
@@ -27,32 +20,42 @@ void bringToFront(NSWindowController* controller) {
     [NSApp activate];
 }
 
+// The settings and welcome windows, each made on first use. Main thread only.
+class MacAppWindows final : public AppWindows {
+public:
+    void showSettings(SettingsWindowModel& model) override {
+        if (!settings_) {
+            settings_ = [[QVSettingsWindowController alloc] initWithModel:model];
+        }
+        bringToFront(settings_);
+    }
+
+    void showFirstRun(FirstRunModel& model) override {
+        if (!firstRun_) {
+            firstRun_ = [[QVFirstRunWindowController alloc] initWithModel:model];
+        }
+        bringToFront(firstRun_);
+    }
+
+    void closeFirstRun() override {
+        QVFirstRunWindowController* controller = firstRun_;
+        firstRun_ = nil;
+        // This runs inside the window's own "Get Started" click: closing there would free the
+        // window, its button and the button's target while the click is still on the stack. The
+        // block keeps the controller alive and closes it on the next turn of the run loop.
+        // unconfirmed: check on a Mac first (-[NSWindow close] is not in the fact sheet).
+        runSoon(^{
+          [controller.window close];
+        });
+    }
+
+private:
+    QVSettingsWindowController* settings_ = nil;
+    QVFirstRunWindowController* firstRun_ = nil;
+};
+
 }  // namespace
 
-void MacAppWindows::showSettings(SettingsWindowModel& model) {
-    if (!controllers_->settings) {
-        controllers_->settings = [[QVSettingsWindowController alloc] initWithModel:model];
-    }
-    bringToFront(controllers_->settings);
-}
-
-void MacAppWindows::showFirstRun(FirstRunModel& model) {
-    if (!controllers_->firstRun) {
-        controllers_->firstRun = [[QVFirstRunWindowController alloc] initWithModel:model];
-    }
-    bringToFront(controllers_->firstRun);
-}
-
-void MacAppWindows::closeFirstRun() {
-    QVFirstRunWindowController* controller = controllers_->firstRun;
-    controllers_->firstRun = nil;
-    // This runs inside the window's own "Get Started" click: closing there would free the
-    // window, its button and the button's target while the click is still on the stack. The
-    // block keeps the controller alive and closes it on the next turn of the run loop.
-    // unconfirmed: check on a Mac first (-[NSWindow close] is not in the fact sheet).
-    runSoon(^{
-      [controller.window close];
-    });
-}
+std::unique_ptr<AppWindows> makeMacAppWindows() { return std::make_unique<MacAppWindows>(); }
 
 }  // namespace quorvane

@@ -1,5 +1,6 @@
-#include "mac/MacCalendarEvents.hpp"
+#include "mac/MacPorts.hpp"
 
+#include <memory>
 #include <utility>
 
 #include "mac/MacFrameworks.h"
@@ -21,49 +22,58 @@
 
 namespace quorvane {
 
-struct MacEventStore {
-    EKEventStore* store = [[EKEventStore alloc] init];
+namespace {
+
+// EventKit's event store, kept for the app's lifetime as Apple advises (objects fetched from
+// one store cannot be used with another). Main thread only.
+class MacCalendarEvents final : public CalendarEvents {
+public:
+    CalendarEvents::Access authorizationStatus() override {
+        return static_cast<Access>(
+            [EKEventStore authorizationStatusForEntityType:EKEntityTypeEvent]);
+    }
+
+    void requestFullAccess(std::function<void(bool granted, std::string error)> done) override {
+        auto callback = std::make_shared<std::function<void(bool, std::string)>>(std::move(done));
+        [store_ requestFullAccessToEventsWithCompletion:^(BOOL granted, NSError* error) {
+          const bool wasGranted = granted;
+          NSString* reason = error.localizedDescription;
+          runSoon(^{
+            (*callback)(wasGranted, utf8String(reason));
+          });
+        }];
+    }
+
+    std::vector<CalendarEvents::Event> events(double start, double end) override {
+        std::vector<Event> result;
+        EKEventStore* store = store_;
+        NSPredicate* predicate = [store
+            predicateForEventsWithStartDate:[NSDate dateWithTimeIntervalSinceReferenceDate:start]
+                                    endDate:[NSDate dateWithTimeIntervalSinceReferenceDate:end]
+                                  calendars:nil];
+        for (EKEvent* event in [store eventsMatchingPredicate:predicate]) {
+            result.push_back({utf8String(event.title),
+                              event.startDate.timeIntervalSinceReferenceDate,
+                              event.endDate.timeIntervalSinceReferenceDate, event.allDay != NO,
+                              utf8String(event.calendar.title)});
+        }
+        return result;
+    }
+
+    Subscription observeChanges(std::function<void()> handler) override {
+        return observeOnMainQueue([NSNotificationCenter defaultCenter],
+                                  EKEventStoreChangedNotification, store_,
+                                  [handler = std::move(handler)](NSNotification*) { handler(); });
+    }
+
+private:
+    EKEventStore* store_ = [[EKEventStore alloc] init];
 };
 
-MacCalendarEvents::MacCalendarEvents() : store_(std::make_unique<MacEventStore>()) {}
+}  // namespace
 
-MacCalendarEvents::~MacCalendarEvents() = default;
-
-CalendarEvents::Access MacCalendarEvents::authorizationStatus() {
-    return static_cast<Access>([EKEventStore authorizationStatusForEntityType:EKEntityTypeEvent]);
-}
-
-void MacCalendarEvents::requestFullAccess(
-    std::function<void(bool granted, std::string error)> done) {
-    auto callback = std::make_shared<std::function<void(bool, std::string)>>(std::move(done));
-    [store_->store requestFullAccessToEventsWithCompletion:^(BOOL granted, NSError* error) {
-      const bool wasGranted = granted;
-      NSString* reason = error.localizedDescription;
-      runSoon(^{
-        (*callback)(wasGranted, utf8String(reason));
-      });
-    }];
-}
-
-std::vector<CalendarEvents::Event> MacCalendarEvents::events(double start, double end) {
-    std::vector<Event> result;
-    EKEventStore* store = store_->store;
-    NSPredicate* predicate =
-        [store predicateForEventsWithStartDate:[NSDate dateWithTimeIntervalSinceReferenceDate:start]
-                                       endDate:[NSDate dateWithTimeIntervalSinceReferenceDate:end]
-                                     calendars:nil];
-    for (EKEvent* event in [store eventsMatchingPredicate:predicate]) {
-        result.push_back({utf8String(event.title), event.startDate.timeIntervalSinceReferenceDate,
-                          event.endDate.timeIntervalSinceReferenceDate, event.allDay != NO,
-                          utf8String(event.calendar.title)});
-    }
-    return result;
-}
-
-Subscription MacCalendarEvents::observeChanges(std::function<void()> handler) {
-    return observeOnMainQueue([NSNotificationCenter defaultCenter], EKEventStoreChangedNotification,
-                              store_ -> store,
-                              [handler = std::move(handler)](NSNotification*) { handler(); });
+std::unique_ptr<CalendarEvents> makeMacCalendarEvents() {
+    return std::make_unique<MacCalendarEvents>();
 }
 
 }  // namespace quorvane

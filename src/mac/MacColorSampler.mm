@@ -1,4 +1,4 @@
-#include "mac/MacColorSampler.hpp"
+#include "mac/MacPorts.hpp"
 
 #include <memory>
 
@@ -12,23 +12,33 @@
 
 namespace quorvane {
 
-Subscription MacColorSampler::sample(Handler handler) {
-    auto shared = std::make_shared<CancellableHandler<Handler>>(std::move(handler));
-    NSColorSampler* sampler = [[NSColorSampler alloc] init];
-    [sampler showSamplerWithSelectionHandler:^(NSColor* selected) {
-      if (shared->cancelled) {
-          return;
-      }
-      NSColor* srgb = [selected colorUsingColorSpace:[NSColorSpace sRGBColorSpace]];
-      if (srgb == nil) {
-          shared->handler(std::nullopt);
-          return;
-      }
-      shared->handler(ColorSampler::Color{static_cast<double>(srgb.redComponent),
-                                          static_cast<double>(srgb.greenComponent),
-                                          static_cast<double>(srgb.blueComponent)});
-    }];
-    return Subscription([shared] { shared->cancelled = true; });
-}
+namespace {
+
+// The system's colour sampler (NSColorSampler).
+class MacColorSampler final : public ColorSampler {
+public:
+    Subscription sample(Handler handler) override {
+        auto shared = std::make_shared<CancellableHandler<Handler>>(std::move(handler));
+        NSColorSampler* sampler = [[NSColorSampler alloc] init];
+        [sampler showSamplerWithSelectionHandler:^(NSColor* selected) {
+          if (shared->cancelled) {
+              return;
+          }
+          NSColor* srgb = [selected colorUsingColorSpace:[NSColorSpace sRGBColorSpace]];
+          if (srgb == nil) {
+              shared->handler(std::nullopt);
+              return;
+          }
+          shared->handler(ColorSampler::Color{static_cast<double>(srgb.redComponent),
+                                              static_cast<double>(srgb.greenComponent),
+                                              static_cast<double>(srgb.blueComponent)});
+        }];
+        return Subscription([shared] { shared->cancelled = true; });
+    }
+};
+
+}  // namespace
+
+std::unique_ptr<ColorSampler> makeMacColorSampler() { return std::make_unique<MacColorSampler>(); }
 
 }  // namespace quorvane

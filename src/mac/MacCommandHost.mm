@@ -4,11 +4,9 @@
 
 #include "app/ToolRegistry.hpp"
 #include "mac/MacNotificationBus.hpp"
-#include "mac/MacPreferenceDomains.hpp"
+#include "mac/MacPorts.hpp"
 #include "mac/MacPreferences.hpp"
 #include "portable/SpawnedChildProcesses.hpp"
-#include "mac/MacFileSystem.hpp"
-#include "mac/MacProcessFacts.hpp"
 
 namespace quorvane {
 
@@ -31,20 +29,16 @@ public:
     }
 
     std::unique_ptr<PreferenceDomains> openDefaultPreferenceDomains() override {
-        return std::make_unique<MacPreferenceDomains>();
+        return makeMacPreferenceDomains();
     }
 
     std::unique_ptr<ChildProcesses> makeChildProcesses() override {
         return std::make_unique<SpawnedChildProcesses>();
     }
 
-    std::unique_ptr<FileSystem> makeFileSystem() override {
-        return std::make_unique<MacFileSystem>();
-    }
+    std::unique_ptr<FileSystem> makeFileSystem() override { return makeMacFileSystem(); }
 
-    std::unique_ptr<ProcessFacts> makeProcessFacts() override {
-        return std::make_unique<MacProcessFacts>();
-    }
+    std::unique_ptr<ProcessFacts> makeProcessFacts() override { return makeMacProcessFacts(); }
 };
 
 }  // namespace

@@ -1,4 +1,4 @@
-#include "mac/MacDefaultApplications.hpp"
+#include "mac/MacPorts.hpp"
 
 #include <memory>
 
@@ -42,70 +42,76 @@ void (^answer(DefaultApplications::Completion completion))(NSError* _Nullable) {
     };
 }
 
+// Default handlers through NSWorkspace's content-type and URL methods (macOS 12 and later).
+class MacDefaultApplications final : public DefaultApplications {
+public:
+    std::optional<std::string> defaultForContentType(const std::string& contentType) override {
+        @autoreleasepool {
+            UTType* type = [UTType typeWithIdentifier:text(contentType)];
+            return type != nil ? pathOf([[NSWorkspace sharedWorkspace]
+                                     URLForApplicationToOpenContentType:type])
+                               : std::nullopt;
+        }
+    }
+
+    std::vector<std::string> applicationsForContentType(const std::string& contentType) override {
+        @autoreleasepool {
+            UTType* type = [UTType typeWithIdentifier:text(contentType)];
+            return type != nil ? pathsOf([[NSWorkspace sharedWorkspace]
+                                     URLsForApplicationsToOpenContentType:type])
+                               : std::vector<std::string>{};
+        }
+    }
+
+    std::optional<std::string> defaultForURLScheme(const std::string& scheme) override {
+        @autoreleasepool {
+            NSURL* url = schemeURL(scheme);
+            return url != nil
+                       ? pathOf([[NSWorkspace sharedWorkspace] URLForApplicationToOpenURL:url])
+                       : std::nullopt;
+        }
+    }
+
+    std::vector<std::string> applicationsForURLScheme(const std::string& scheme) override {
+        @autoreleasepool {
+            NSURL* url = schemeURL(scheme);
+            return url != nil
+                       ? pathsOf([[NSWorkspace sharedWorkspace] URLsForApplicationsToOpenURL:url])
+                       : std::vector<std::string>{};
+        }
+    }
+
+    void setDefaultForContentType(const std::string& applicationPath,
+                                  const std::string& contentType, Completion completion) override {
+        @autoreleasepool {
+            UTType* type = [UTType typeWithIdentifier:text(contentType)];
+            if (type == nil) {
+                completion("the system does not know the kind " + contentType);
+                return;
+            }
+            [[NSWorkspace sharedWorkspace]
+                setDefaultApplicationAtURL:applicationURL(applicationPath)
+                         toOpenContentType:type
+                         completionHandler:answer(std::move(completion))];
+        }
+    }
+
+    void setDefaultForURLScheme(const std::string& applicationPath, const std::string& scheme,
+                                Completion completion) override {
+        @autoreleasepool {
+            // The system asks the user to confirm a change of the http and https handlers.
+            [[NSWorkspace sharedWorkspace]
+                setDefaultApplicationAtURL:applicationURL(applicationPath)
+                      toOpenURLsWithScheme:text(scheme)
+                         completionHandler:answer(std::move(completion))];
+        }
+    }
+};
+
 }  // namespace
 
-std::optional<std::string> MacDefaultApplications::defaultForContentType(
-    const std::string& contentType) {
-    @autoreleasepool {
-        UTType* type = [UTType typeWithIdentifier:text(contentType)];
-        return type != nil
-                   ? pathOf([[NSWorkspace sharedWorkspace] URLForApplicationToOpenContentType:type])
-                   : std::nullopt;
-    }
-}
-
-std::vector<std::string> MacDefaultApplications::applicationsForContentType(
-    const std::string& contentType) {
-    @autoreleasepool {
-        UTType* type = [UTType typeWithIdentifier:text(contentType)];
-        return type != nil ? pathsOf([[NSWorkspace sharedWorkspace]
-                                 URLsForApplicationsToOpenContentType:type])
-                           : std::vector<std::string>{};
-    }
-}
-
-std::optional<std::string> MacDefaultApplications::defaultForURLScheme(const std::string& scheme) {
-    @autoreleasepool {
-        NSURL* url = schemeURL(scheme);
-        return url != nil ? pathOf([[NSWorkspace sharedWorkspace] URLForApplicationToOpenURL:url])
-                          : std::nullopt;
-    }
-}
-
-std::vector<std::string> MacDefaultApplications::applicationsForURLScheme(
-    const std::string& scheme) {
-    @autoreleasepool {
-        NSURL* url = schemeURL(scheme);
-        return url != nil
-                   ? pathsOf([[NSWorkspace sharedWorkspace] URLsForApplicationsToOpenURL:url])
-                   : std::vector<std::string>{};
-    }
-}
-
-void MacDefaultApplications::setDefaultForContentType(const std::string& applicationPath,
-                                                      const std::string& contentType,
-                                                      Completion completion) {
-    @autoreleasepool {
-        UTType* type = [UTType typeWithIdentifier:text(contentType)];
-        if (type == nil) {
-            completion("the system does not know the kind " + contentType);
-            return;
-        }
-        [[NSWorkspace sharedWorkspace] setDefaultApplicationAtURL:applicationURL(applicationPath)
-                                                toOpenContentType:type
-                                                completionHandler:answer(std::move(completion))];
-    }
-}
-
-void MacDefaultApplications::setDefaultForURLScheme(const std::string& applicationPath,
-                                                    const std::string& scheme,
-                                                    Completion completion) {
-    @autoreleasepool {
-        // The system asks the user to confirm a change of the http and https handlers.
-        [[NSWorkspace sharedWorkspace] setDefaultApplicationAtURL:applicationURL(applicationPath)
-                                             toOpenURLsWithScheme:text(scheme)
-                                                completionHandler:answer(std::move(completion))];
-    }
+std::unique_ptr<DefaultApplications> makeMacDefaultApplications() {
+    return std::make_unique<MacDefaultApplications>();
 }
 
 }  // namespace quorvane

@@ -1,16 +1,13 @@
-#include "mac/MacDiskArbitration.hpp"
+#include "mac/MacPorts.hpp"
 
 #include <cassert>
+#include <memory>
 
 #include "mac/CFRef.hpp"
 #include "mac/MacFrameworks.h"
 #include "mac/MacStrings.hpp"
 
 namespace quorvane {
-
-struct MacDiskArbitration::Session {
-    CFRef<DASessionRef> session;
-};
 
 namespace {
 
@@ -72,66 +69,76 @@ Subscription request(DASessionRef session, const std::string& bsdName,
     return Subscription([completion] { *completion = nullptr; });
 }
 
-}  // namespace
-
-MacDiskArbitration::MacDiskArbitration() : session_(std::make_unique<Session>()) {
-    session_->session = CFRef<DASessionRef>::adopt(DASessionCreate(kCFAllocatorDefault));
-    if (session_->session) {
-        DASessionScheduleWithRunLoop(session_->session.get(), CFRunLoopGetMain(),
-                                     kCFRunLoopCommonModes);
-    }
-}
-
-MacDiskArbitration::~MacDiskArbitration() {
-    if (session_->session) {
-        DASessionUnscheduleFromRunLoop(session_->session.get(), CFRunLoopGetMain(),
-                                       kCFRunLoopCommonModes);
-    }
-}
-
-std::vector<DiskDescription> MacDiskArbitration::mountedVolumes() {
-    std::vector<DiskDescription> volumes;
-    if (!session_->session) {
-        return volumes;
-    }
-    NSArray<NSURL*>* urls =
-        [[NSFileManager defaultManager] mountedVolumeURLsIncludingResourceValuesForKeys:nil
-                                                                                options:0];
-    for (NSURL* url in urls) {
-        // Volumes Disk Arbitration does not manage (devfs, some network mounts) give no disk.
-        const auto disk = CFRef<DADiskRef>::adopt(DADiskCreateFromVolumePath(
-            kCFAllocatorDefault, session_->session.get(), (__bridge CFURLRef)url));
-        if (auto description = describeDisk(disk.get())) {
-            volumes.push_back(std::move(*description));
+// Disk Arbitration through one session scheduled on the main run loop.
+class MacDiskArbitration final : public DiskArbitration {
+public:
+    MacDiskArbitration()
+        : session_(CFRef<DASessionRef>::adopt(DASessionCreate(kCFAllocatorDefault))) {
+        if (session_) {
+            DASessionScheduleWithRunLoop(session_.get(), CFRunLoopGetMain(), kCFRunLoopCommonModes);
         }
     }
-    return volumes;
-}
 
-std::optional<DiskDescription> MacDiskArbitration::describe(const std::string& bsdName) {
-    if (!session_->session) {
-        return std::nullopt;
+    ~MacDiskArbitration() override {
+        if (session_) {
+            DASessionUnscheduleFromRunLoop(session_.get(), CFRunLoopGetMain(),
+                                           kCFRunLoopCommonModes);
+        }
     }
-    // unconfirmed: check on a Mac first (that a detached disk's BSD name gives no disk or
-    // no description, rather than an empty one).
-    const auto disk = CFRef<DADiskRef>::adopt(
-        DADiskCreateFromBSDName(kCFAllocatorDefault, session_->session.get(), bsdName.c_str()));
-    return describeDisk(disk.get());
-}
+    MacDiskArbitration(const MacDiskArbitration&) = delete;
+    MacDiskArbitration& operator=(const MacDiskArbitration&) = delete;
 
-Subscription MacDiskArbitration::unmount(const std::string& bsdName, Completion done) {
-    return request(session_->session.get(), bsdName, std::move(done),
-                   [](DADiskRef disk, void* context) {
-                       DADiskUnmount(disk, kDADiskUnmountOptionDefault, &answered, context);
-                   });
-}
+    std::vector<DiskDescription> mountedVolumes() override {
+        std::vector<DiskDescription> volumes;
+        if (!session_) {
+            return volumes;
+        }
+        NSArray<NSURL*>* urls =
+            [[NSFileManager defaultManager] mountedVolumeURLsIncludingResourceValuesForKeys:nil
+                                                                                    options:0];
+        for (NSURL* url in urls) {
+            // Volumes Disk Arbitration does not manage (devfs, some network mounts) give no disk.
+            const auto disk = CFRef<DADiskRef>::adopt(DADiskCreateFromVolumePath(
+                kCFAllocatorDefault, session_.get(), (__bridge CFURLRef)url));
+            if (auto description = describeDisk(disk.get())) {
+                volumes.push_back(std::move(*description));
+            }
+        }
+        return volumes;
+    }
 
-Subscription MacDiskArbitration::mount(const std::string& bsdName, Completion done) {
-    return request(session_->session.get(), bsdName, std::move(done),
-                   [](DADiskRef disk, void* context) {
-                       // No path: the volume goes back where Disk Arbitration mounts it by default.
-                       DADiskMount(disk, nullptr, kDADiskMountOptionDefault, &answered, context);
-                   });
+    std::optional<DiskDescription> describe(const std::string& bsdName) override {
+        if (!session_) {
+            return std::nullopt;
+        }
+        // unconfirmed: check on a Mac first (that a detached disk's BSD name gives no disk or
+        // no description, rather than an empty one).
+        const auto disk = CFRef<DADiskRef>::adopt(
+            DADiskCreateFromBSDName(kCFAllocatorDefault, session_.get(), bsdName.c_str()));
+        return describeDisk(disk.get());
+    }
+
+    Subscription unmount(const std::string& bsdName, Completion done) override {
+        return request(session_.get(), bsdName, std::move(done), [](DADiskRef disk, void* context) {
+            DADiskUnmount(disk, kDADiskUnmountOptionDefault, &answered, context);
+        });
+    }
+
+    Subscription mount(const std::string& bsdName, Completion done) override {
+        return request(session_.get(), bsdName, std::move(done), [](DADiskRef disk, void* context) {
+            // No path: the volume goes back where Disk Arbitration mounts it by default.
+            DADiskMount(disk, nullptr, kDADiskMountOptionDefault, &answered, context);
+        });
+    }
+
+private:
+    CFRef<DASessionRef> session_;
+};
+
+}  // namespace
+
+std::unique_ptr<DiskArbitration> makeMacDiskArbitration() {
+    return std::make_unique<MacDiskArbitration>();
 }
 
 }  // namespace quorvane

@@ -2,7 +2,7 @@
 #error "Compile with -fobjc-arc"
 #endif
 
-#include "mac/MacDisplayConfiguration.hpp"
+#include "mac/MacPorts.hpp"
 
 #include <cassert>
 #include <memory>
@@ -48,40 +48,48 @@ std::string displayIdentifier(NSScreen* screen) {
     return text ? utf8String(text.get()) : "display-" + std::to_string(display);
 }
 
+// NSScreen's displays, named by their ColorSync UUIDs, and AppKit's word that they changed.
+class MacDisplayConfiguration final : public DisplayConfiguration {
+public:
+    std::vector<std::string> displayIDs() override {
+        @autoreleasepool {
+            // The same order as MacScreens::screens(), which also lists [NSScreen screens].
+            std::vector<std::string> ids;
+            for (NSScreen* screen in [NSScreen screens]) {
+                ids.push_back(displayIdentifier(screen));
+            }
+            return ids;
+        }
+    }
+
+    [[nodiscard]] Subscription observeReconfiguration(std::function<void()> handler) override {
+        @autoreleasepool {
+            auto observer =
+                std::make_shared<CancellableHandler<std::function<void()>>>(std::move(handler));
+            id<NSObject> token = [[NSNotificationCenter defaultCenter]
+                addObserverForName:NSApplicationDidChangeScreenParametersNotification
+                            object:nil
+                             queue:[NSOperationQueue mainQueue]
+                        usingBlock:^(NSNotification* note) {
+                          (void)note;
+                          assert([NSThread isMainThread]);
+                          const auto running = observer;  // the handler may end the subscription
+                          if (!running->cancelled) {
+                              running->handler();
+                          }
+                        }];
+            return Subscription([observer, token] {
+                observer->cancelled = true;
+                [[NSNotificationCenter defaultCenter] removeObserver:token];
+            });
+        }
+    }
+};
+
 }  // namespace
 
-std::vector<std::string> MacDisplayConfiguration::displayIDs() {
-    @autoreleasepool {
-        // The same order as MacScreens::screens(), which also lists [NSScreen screens].
-        std::vector<std::string> ids;
-        for (NSScreen* screen in [NSScreen screens]) {
-            ids.push_back(displayIdentifier(screen));
-        }
-        return ids;
-    }
-}
-
-Subscription MacDisplayConfiguration::observeReconfiguration(std::function<void()> handler) {
-    @autoreleasepool {
-        auto observer =
-            std::make_shared<CancellableHandler<std::function<void()>>>(std::move(handler));
-        id<NSObject> token = [[NSNotificationCenter defaultCenter]
-            addObserverForName:NSApplicationDidChangeScreenParametersNotification
-                        object:nil
-                         queue:[NSOperationQueue mainQueue]
-                    usingBlock:^(NSNotification* note) {
-                      (void)note;
-                      assert([NSThread isMainThread]);
-                      const auto running = observer;  // the handler may end the subscription
-                      if (!running->cancelled) {
-                          running->handler();
-                      }
-                    }];
-        return Subscription([observer, token] {
-            observer->cancelled = true;
-            [[NSNotificationCenter defaultCenter] removeObserver:token];
-        });
-    }
+std::unique_ptr<DisplayConfiguration> makeMacDisplayConfiguration() {
+    return std::make_unique<MacDisplayConfiguration>();
 }
 
 }  // namespace quorvane

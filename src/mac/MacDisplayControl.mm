@@ -1,9 +1,8 @@
-#include "mac/MacDisplayControl.hpp"
+#include "mac/MacPorts.hpp"
 
 #include <dlfcn.h>
 
 #include "mac/CFRef.hpp"
-#include "mac/MacDisplayConfiguration.hpp"
 #include "mac/MacFrameworks.h"
 #include "mac/MacStrings.hpp"
 
@@ -88,74 +87,85 @@ CFRef<AVService> externalService(std::uint32_t display) {
     return services.front();
 }
 
+// NSScreen's displays, Quartz's gamma tables, and DDC over the external displays' I2C buses
+// through the IOAVService calls macOS uses itself on Apple silicon. Those are not public: they
+// are looked up at run time, and every call answers kUnsupported when they are missing.
+class MacDisplayControl final : public DisplayControl {
+public:
+    std::vector<DisplayControl::Display> displays() override {
+        @autoreleasepool {
+            // The same identifiers, in the same order, as DisplayConfiguration gives.
+            const auto keys = makeMacDisplayConfiguration()->displayIDs();
+            std::vector<Display> result;
+            std::size_t index = 0;
+            for (NSScreen* screen in [NSScreen screens]) {
+                NSNumber* number = screen.deviceDescription[@"NSScreenNumber"];
+                const std::string key = index < keys.size() ? keys[index] : std::string();
+                ++index;
+                if (![number isKindOfClass:[NSNumber class]]) {
+                    continue;
+                }
+                const auto id = static_cast<std::uint32_t>(number.unsignedIntValue);
+                const NSRect frame = screen.frame;
+                // unconfirmed: check on a Mac first (-[NSScreen localizedName], macOS 10.15).
+                result.push_back({id, key, utf8String(screen.localizedName),
+                                  CGDisplayIsBuiltin(id) != 0,
+                                  Rect{{frame.origin.x, frame.origin.y},
+                                       {frame.size.width, frame.size.height}}});
+            }
+            return result;
+        }
+    }
+
+    int writeI2C(std::uint32_t display, std::uint8_t chip, std::uint8_t offset,
+                 const std::vector<std::uint8_t>& data) override {
+        const auto service = externalService(display);
+        if (!service || !avFunctions().write) {
+            return kUnsupported;
+        }
+        std::vector<std::uint8_t> bytes = data;  // the call takes a mutable buffer
+        return avFunctions().write(service.get(), chip, offset, bytes.data(),
+                                   static_cast<std::uint32_t>(bytes.size()));
+    }
+
+    int readI2C(std::uint32_t display, std::uint8_t chip, std::uint8_t offset,
+                std::vector<std::uint8_t>& data) override {
+        const auto service = externalService(display);
+        if (!service || !avFunctions().read) {
+            return kUnsupported;
+        }
+        return avFunctions().read(service.get(), chip, offset, data.data(),
+                                  static_cast<std::uint32_t>(data.size()));
+    }
+
+    int gammaTable(std::uint32_t display, GammaTable& table) override {
+        const std::uint32_t capacity = CGDisplayGammaTableCapacity(display);
+        table.red.assign(capacity, 0);
+        table.green.assign(capacity, 0);
+        table.blue.assign(capacity, 0);
+        std::uint32_t count = 0;
+        const CGError status = CGGetDisplayTransferByTable(
+            display, capacity, table.red.data(), table.green.data(), table.blue.data(), &count);
+        table.red.resize(count);
+        table.green.resize(count);
+        table.blue.resize(count);
+        return static_cast<int>(status);
+    }
+
+    int setGammaTable(std::uint32_t display, const GammaTable& table) override {
+        const auto size = static_cast<std::uint32_t>(
+            std::min({table.red.size(), table.green.size(), table.blue.size()}));
+        return static_cast<int>(CGSetDisplayTransferByTable(display, size, table.red.data(),
+                                                            table.green.data(), table.blue.data()));
+    }
+
+    void restoreColorSyncSettings() override { CGDisplayRestoreColorSyncSettings(); }
+};
+
 }  // namespace
 
-std::vector<DisplayControl::Display> MacDisplayControl::displays() {
-    @autoreleasepool {
-        // The same identifiers, in the same order, as DisplayConfiguration gives.
-        const auto keys = MacDisplayConfiguration().displayIDs();
-        std::vector<Display> result;
-        std::size_t index = 0;
-        for (NSScreen* screen in [NSScreen screens]) {
-            NSNumber* number = screen.deviceDescription[@"NSScreenNumber"];
-            const std::string key = index < keys.size() ? keys[index] : std::string();
-            ++index;
-            if (![number isKindOfClass:[NSNumber class]]) {
-                continue;
-            }
-            const auto id = static_cast<std::uint32_t>(number.unsignedIntValue);
-            const NSRect frame = screen.frame;
-            // unconfirmed: check on a Mac first (-[NSScreen localizedName], macOS 10.15).
-            result.push_back(
-                {id, key, utf8String(screen.localizedName), CGDisplayIsBuiltin(id) != 0,
-                 Rect{{frame.origin.x, frame.origin.y}, {frame.size.width, frame.size.height}}});
-        }
-        return result;
-    }
+std::unique_ptr<DisplayControl> makeMacDisplayControl() {
+    return std::make_unique<MacDisplayControl>();
 }
-
-int MacDisplayControl::writeI2C(std::uint32_t display, std::uint8_t chip, std::uint8_t offset,
-                                const std::vector<std::uint8_t>& data) {
-    const auto service = externalService(display);
-    if (!service || !avFunctions().write) {
-        return kUnsupported;
-    }
-    std::vector<std::uint8_t> bytes = data;  // the call takes a mutable buffer
-    return avFunctions().write(service.get(), chip, offset, bytes.data(),
-                               static_cast<std::uint32_t>(bytes.size()));
-}
-
-int MacDisplayControl::readI2C(std::uint32_t display, std::uint8_t chip, std::uint8_t offset,
-                               std::vector<std::uint8_t>& data) {
-    const auto service = externalService(display);
-    if (!service || !avFunctions().read) {
-        return kUnsupported;
-    }
-    return avFunctions().read(service.get(), chip, offset, data.data(),
-                              static_cast<std::uint32_t>(data.size()));
-}
-
-int MacDisplayControl::gammaTable(std::uint32_t display, GammaTable& table) {
-    const std::uint32_t capacity = CGDisplayGammaTableCapacity(display);
-    table.red.assign(capacity, 0);
-    table.green.assign(capacity, 0);
-    table.blue.assign(capacity, 0);
-    std::uint32_t count = 0;
-    const CGError status = CGGetDisplayTransferByTable(
-        display, capacity, table.red.data(), table.green.data(), table.blue.data(), &count);
-    table.red.resize(count);
-    table.green.resize(count);
-    table.blue.resize(count);
-    return static_cast<int>(status);
-}
-
-int MacDisplayControl::setGammaTable(std::uint32_t display, const GammaTable& table) {
-    const auto size = static_cast<std::uint32_t>(
-        std::min({table.red.size(), table.green.size(), table.blue.size()}));
-    return static_cast<int>(CGSetDisplayTransferByTable(display, size, table.red.data(),
-                                                        table.green.data(), table.blue.data()));
-}
-
-void MacDisplayControl::restoreColorSyncSettings() { CGDisplayRestoreColorSyncSettings(); }
 
 }  // namespace quorvane

@@ -1,4 +1,4 @@
-#include "mac/MacEventMonitors.hpp"
+#include "mac/MacPorts.hpp"
 
 #include <cassert>
 #include <memory>
@@ -9,51 +9,64 @@
 
 namespace quorvane {
 
-Subscription MacEventMonitors::addGlobal(std::uint64_t mask, GlobalHandler handler) {
-    auto monitor = std::make_shared<CancellableHandler<GlobalHandler>>(std::move(handler));
-    id token = [NSEvent addGlobalMonitorForEventsMatchingMask:static_cast<NSEventMask>(mask)
-                                                      handler:^(NSEvent* event) {
-                                                        assert([NSThread isMainThread]);
-                                                        const auto running = monitor;
-                                                        if (running->cancelled) {
-                                                            return;
-                                                        }
-                                                        const MacEvent wrapped =
-                                                            MacEvent::borrow(event.CGEvent, event);
-                                                        running->handler(wrapped);
-                                                      }];
-    if (!token) {
-        return {};
-    }
-    return Subscription([monitor, token] {
-        monitor->cancelled = true;
-        [NSEvent removeMonitor:token];
-    });
-}
+namespace {
 
-Subscription MacEventMonitors::addLocal(std::uint64_t mask, LocalHandler handler) {
-    auto monitor = std::make_shared<CancellableHandler<LocalHandler>>(std::move(handler));
-    id token =
-        [NSEvent addLocalMonitorForEventsMatchingMask:static_cast<NSEventMask>(mask)
-                                              handler:^NSEvent*(NSEvent* event) {
-                                                assert([NSThread isMainThread]);
-                                                // The handler may remove this very monitor.
-                                                const auto running = monitor;
-                                                if (running->cancelled) {
-                                                    return event;
-                                                }
-                                                const MacEvent wrapped =
-                                                    MacEvent::borrow(event.CGEvent, event);
-                                                // nil stops the event: it is never dispatched.
-                                                return running->handler(wrapped) ? event : nil;
-                                              }];
-    if (!token) {
-        return {};
+// NSEvent's global and local monitors.
+class MacEventMonitors final : public EventMonitors {
+public:
+    [[nodiscard]] Subscription addGlobal(std::uint64_t mask, GlobalHandler handler) override {
+        auto monitor = std::make_shared<CancellableHandler<GlobalHandler>>(std::move(handler));
+        id token =
+            [NSEvent addGlobalMonitorForEventsMatchingMask:static_cast<NSEventMask>(mask)
+                                                   handler:^(NSEvent* event) {
+                                                     assert([NSThread isMainThread]);
+                                                     const auto running = monitor;
+                                                     if (running->cancelled) {
+                                                         return;
+                                                     }
+                                                     const MacEvent wrapped =
+                                                         MacEvent::borrow(event.CGEvent, event);
+                                                     running->handler(wrapped);
+                                                   }];
+        if (!token) {
+            return {};
+        }
+        return Subscription([monitor, token] {
+            monitor->cancelled = true;
+            [NSEvent removeMonitor:token];
+        });
     }
-    return Subscription([monitor, token] {
-        monitor->cancelled = true;
-        [NSEvent removeMonitor:token];
-    });
+
+    [[nodiscard]] Subscription addLocal(std::uint64_t mask, LocalHandler handler) override {
+        auto monitor = std::make_shared<CancellableHandler<LocalHandler>>(std::move(handler));
+        id token =
+            [NSEvent addLocalMonitorForEventsMatchingMask:static_cast<NSEventMask>(mask)
+                                                  handler:^NSEvent*(NSEvent* event) {
+                                                    assert([NSThread isMainThread]);
+                                                    // The handler may remove this very monitor.
+                                                    const auto running = monitor;
+                                                    if (running->cancelled) {
+                                                        return event;
+                                                    }
+                                                    const MacEvent wrapped =
+                                                        MacEvent::borrow(event.CGEvent, event);
+                                                    // nil stops the event: it is never dispatched.
+                                                    return running->handler(wrapped) ? event : nil;
+                                                  }];
+        if (!token) {
+            return {};
+        }
+        return Subscription([monitor, token] {
+            monitor->cancelled = true;
+            [NSEvent removeMonitor:token];
+        });
+    }
+};
+
+}  // namespace
+
+std::unique_ptr<EventMonitors> makeMacEventMonitors() {
+    return std::make_unique<MacEventMonitors>();
 }
 
 }  // namespace quorvane

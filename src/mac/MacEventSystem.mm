@@ -1,4 +1,4 @@
-#include "mac/MacEventSystem.hpp"
+#include "mac/MacPorts.hpp"
 
 #include <cassert>
 
@@ -92,49 +92,55 @@ std::unique_ptr<Event> wrap(CGEventRef created, CFRef<CGEventSourceRef> source) 
     return std::make_unique<MacEvent>(MacEvent::own(std::move(event), std::move(source)));
 }
 
+// Quartz event services. Taps live on the main run loop, so their callbacks, like everything
+// else, run on the main thread.
+class MacEventSystem final : public EventSystem {
+public:
+    std::unique_ptr<EventTapHandle> createTap(std::uint64_t mask, TapCallback callback) override {
+        return MacEventTap::create(mask, std::move(callback));
+    }
+
+    std::unique_ptr<Event> makeKeyEvent(SourceState source, std::uint16_t keyCode,
+                                        bool keyDown) override {
+        // A source that could not be made is NULL, which the system accepts too.
+        auto eventSource = makeSource(source);
+        CGEventRef event = CGEventCreateKeyboardEvent(eventSource.get(), keyCode, keyDown);
+        return wrap(event, std::move(eventSource));
+    }
+
+    std::unique_ptr<Event> makeMouseEvent(SourceState source, EventType type, Point location,
+                                          MouseButton button) override {
+        auto eventSource = makeSource(source);
+        CGEventRef event = CGEventCreateMouseEvent(
+            eventSource.get(), static_cast<CGEventType>(raw(type)),
+            CGPointMake(location.x, location.y), static_cast<CGMouseButton>(button));
+        return wrap(event, std::move(eventSource));
+    }
+
+    std::unique_ptr<Event> makeScrollEvent(std::optional<SourceState> source, ScrollUnit unit,
+                                           std::int32_t vertical,
+                                           std::int32_t horizontal) override {
+        // Without a source state the event has no source at all (NULL), as the reference allows.
+        auto eventSource = source ? makeSource(*source) : CFRef<CGEventSourceRef>();
+        CGEventRef event = CGEventCreateScrollWheelEvent2(
+            eventSource.get(), static_cast<CGScrollEventUnit>(unit), 2, vertical, horizontal, 0);
+        return wrap(event, std::move(eventSource));
+    }
+
+    void post(Location location, Event& event) override {
+        if (auto* macEvent = dynamic_cast<MacEvent*>(&event)) {
+            CGEventPost(static_cast<CGEventTapLocation>(location), macEvent->ref());
+        }
+    }
+
+    double secondsSinceLastEvent(SourceState source, EventType type) override {
+        return CGEventSourceSecondsSinceLastEventType(static_cast<CGEventSourceStateID>(source),
+                                                      static_cast<CGEventType>(raw(type)));
+    }
+};
+
 }  // namespace
 
-std::unique_ptr<EventTapHandle> MacEventSystem::createTap(std::uint64_t mask,
-                                                          TapCallback callback) {
-    return MacEventTap::create(mask, std::move(callback));
-}
-
-std::unique_ptr<Event> MacEventSystem::makeKeyEvent(SourceState source, std::uint16_t keyCode,
-                                                    bool keyDown) {
-    // A source that could not be made is NULL, which the system accepts too.
-    auto eventSource = makeSource(source);
-    CGEventRef event = CGEventCreateKeyboardEvent(eventSource.get(), keyCode, keyDown);
-    return wrap(event, std::move(eventSource));
-}
-
-std::unique_ptr<Event> MacEventSystem::makeMouseEvent(SourceState source, EventType type,
-                                                      Point location, MouseButton button) {
-    auto eventSource = makeSource(source);
-    CGEventRef event = CGEventCreateMouseEvent(
-        eventSource.get(), static_cast<CGEventType>(raw(type)), CGPointMake(location.x, location.y),
-        static_cast<CGMouseButton>(button));
-    return wrap(event, std::move(eventSource));
-}
-
-std::unique_ptr<Event> MacEventSystem::makeScrollEvent(std::optional<SourceState> source,
-                                                       ScrollUnit unit, std::int32_t vertical,
-                                                       std::int32_t horizontal) {
-    // Without a source state the event has no source at all (NULL), as the reference allows.
-    auto eventSource = source ? makeSource(*source) : CFRef<CGEventSourceRef>();
-    CGEventRef event = CGEventCreateScrollWheelEvent2(
-        eventSource.get(), static_cast<CGScrollEventUnit>(unit), 2, vertical, horizontal, 0);
-    return wrap(event, std::move(eventSource));
-}
-
-void MacEventSystem::post(Location location, Event& event) {
-    if (auto* macEvent = dynamic_cast<MacEvent*>(&event)) {
-        CGEventPost(static_cast<CGEventTapLocation>(location), macEvent->ref());
-    }
-}
-
-double MacEventSystem::secondsSinceLastEvent(SourceState source, EventType type) {
-    return CGEventSourceSecondsSinceLastEventType(static_cast<CGEventSourceStateID>(source),
-                                                  static_cast<CGEventType>(raw(type)));
-}
+std::unique_ptr<EventSystem> makeMacEventSystem() { return std::make_unique<MacEventSystem>(); }
 
 }  // namespace quorvane

@@ -1,4 +1,4 @@
-#include "mac/MacFileIcons.hpp"
+#include "mac/MacPorts.hpp"
 
 #include "mac/MacFrameworks.h"
 #include "mac/MacStrings.hpp"
@@ -43,25 +43,31 @@ NSImage* drawFolder(const FolderArtwork& artwork) {
                    }];
 }
 
+// Custom icons through NSWorkspace; folder artwork is drawn over the system's folder icon.
+class MacFileIcons final : public FileIcons {
+public:
+    bool hasCustomIcon(const std::string& path) override {
+        @autoreleasepool {
+            // A folder's custom icon lives in a hidden file named "Icon" and a carriage return.
+            // unconfirmed: check on a Mac first (files keep theirs in the resource fork instead,
+            // which this does not look at; the tool only changes folders).
+            NSString* iconFile = [text(path) stringByAppendingPathComponent:@"Icon\r"];
+            return [[NSFileManager defaultManager] fileExistsAtPath:iconFile];
+        }
+    }
+
+    bool setIcon(const std::string& path, const FolderArtwork* artwork) override {
+        @autoreleasepool {
+            NSImage* image = artwork != nullptr ? drawFolder(*artwork) : nil;
+            // unconfirmed: check on a Mac first (-setIcon:forFile:options: is not in the fact
+            // sheet; nil removes the custom icon, by Apple's reference).
+            return [[NSWorkspace sharedWorkspace] setIcon:image forFile:text(path) options:0];
+        }
+    }
+};
+
 }  // namespace
 
-bool MacFileIcons::hasCustomIcon(const std::string& path) {
-    @autoreleasepool {
-        // A folder's custom icon lives in a hidden file named "Icon" and a carriage return.
-        // unconfirmed: check on a Mac first (files keep theirs in the resource fork instead,
-        // which this does not look at; the tool only changes folders).
-        NSString* iconFile = [text(path) stringByAppendingPathComponent:@"Icon\r"];
-        return [[NSFileManager defaultManager] fileExistsAtPath:iconFile];
-    }
-}
-
-bool MacFileIcons::setIcon(const std::string& path, const FolderArtwork* artwork) {
-    @autoreleasepool {
-        NSImage* image = artwork != nullptr ? drawFolder(*artwork) : nil;
-        // unconfirmed: check on a Mac first (-setIcon:forFile:options: is not in the fact sheet;
-        // nil removes the custom icon, by Apple's reference).
-        return [[NSWorkspace sharedWorkspace] setIcon:image forFile:text(path) options:0];
-    }
-}
+std::unique_ptr<FileIcons> makeMacFileIcons() { return std::make_unique<MacFileIcons>(); }
 
 }  // namespace quorvane

@@ -1,4 +1,4 @@
-#include "mac/MacFileSystem.hpp"
+#include "mac/MacPorts.hpp"
 
 #include <fstream>
 #include <sstream>
@@ -7,74 +7,87 @@
 #include "mac/MacFrameworks.h"
 #include "mac/MacPropertyList.hpp"
 #include "mac/MacStrings.hpp"
+#include "portable/PosixFileSystem.hpp"
 
 namespace quorvane {
 
-std::string MacFileSystem::homeDirectory() {
-    @autoreleasepool {
-        // unconfirmed: check on a Mac first (NSHomeDirectory is not in the fact sheet; written
-        // from Apple's reference). Quorvane is not sandboxed, so this is the real home folder.
-        return utf8String(NSHomeDirectory());
-    }
-}
+namespace {
 
-std::string MacFileSystem::trashItem(const std::string& path) {
-    @autoreleasepool {
-        NSString* text = makeNSString(path);
-        if (!text) {
-            return "the path is not UTF-8";
+// Listing and sizes are plain POSIX on macOS too; the home folder, the Trash and property
+// lists (binary ones as well) come from Foundation and Core Foundation.
+class MacFileSystem final : public PosixFileSystem {
+public:
+    std::string homeDirectory() override {
+        @autoreleasepool {
+            // unconfirmed: check on a Mac first (NSHomeDirectory is not in the fact sheet; written
+            // from Apple's reference). Quorvane is not sandboxed, so this is the real home folder.
+            return utf8String(NSHomeDirectory());
         }
-        NSURL* url = [NSURL fileURLWithPath:text];
-        NSError* error = nil;
-        // unconfirmed: check on a Mac first (-[NSFileManager trashItemAtURL:resultingItemURL:
-        // error:] is written from Apple's reference, macOS 10.8+). It moves the item into the
-        // Trash of the item's own volume.
-        if (![[NSFileManager defaultManager] trashItemAtURL:url
-                                           resultingItemURL:nil
-                                                      error:&error]) {
-            return error ? utf8String(error.localizedDescription) : "the system refused";
-        }
-        return {};
     }
-}
 
-std::optional<PreferenceValue> MacFileSystem::readPropertyList(const std::string& path,
-                                                               std::string& error) {
-    std::ifstream in(path, std::ios::binary);
-    if (!in) {
-        error = "cannot be opened";
-        return std::nullopt;
-    }
-    std::ostringstream buffer;
-    buffer << in.rdbuf();
-    const std::string bytes = buffer.str();
-    const auto data = CFRef<CFDataRef>::adopt(
-        CFDataCreate(kCFAllocatorDefault, reinterpret_cast<const UInt8*>(bytes.data()),
-                     static_cast<CFIndex>(bytes.size())));
-    if (!data) {
-        error = "out of memory";
-        return std::nullopt;
-    }
-    // unconfirmed: check on a Mac first (CFPropertyListCreateWithData is written from Apple's
-    // reference; it reads the XML and the binary forms and says why it failed).
-    CFErrorRef failure = nullptr;
-    const auto list = CFRef<CFPropertyListRef>::adopt(CFPropertyListCreateWithData(
-        kCFAllocatorDefault, data.get(), kCFPropertyListImmutable, nullptr, &failure));
-    if (!list) {
-        const auto owned = CFRef<CFErrorRef>::adopt(failure);
-        if (owned) {
-            const auto description = CFRef<CFStringRef>::adopt(CFErrorCopyDescription(owned.get()));
-            error = description ? utf8String(description.get()) : "damaged";
-        } else {
-            error = "damaged";
+    std::string trashItem(const std::string& path) override {
+        @autoreleasepool {
+            NSString* text = makeNSString(path);
+            if (!text) {
+                return "the path is not UTF-8";
+            }
+            NSURL* url = [NSURL fileURLWithPath:text];
+            NSError* error = nil;
+            // unconfirmed: check on a Mac first (-[NSFileManager trashItemAtURL:resultingItemURL:
+            // error:] is written from Apple's reference, macOS 10.8+). It moves the item into the
+            // Trash of the item's own volume.
+            if (![[NSFileManager defaultManager] trashItemAtURL:url
+                                               resultingItemURL:nil
+                                                          error:&error]) {
+                return error ? utf8String(error.localizedDescription) : "the system refused";
+            }
+            return {};
         }
-        return std::nullopt;
     }
-    auto value = fromPropertyList(list.get());
-    if (!value) {
-        error = "holds no property list";
+
+    std::optional<PreferenceValue> readPropertyList(const std::string& path,
+                                                    std::string& error) override {
+        std::ifstream in(path, std::ios::binary);
+        if (!in) {
+            error = "cannot be opened";
+            return std::nullopt;
+        }
+        std::ostringstream buffer;
+        buffer << in.rdbuf();
+        const std::string bytes = buffer.str();
+        const auto data = CFRef<CFDataRef>::adopt(
+            CFDataCreate(kCFAllocatorDefault, reinterpret_cast<const UInt8*>(bytes.data()),
+                         static_cast<CFIndex>(bytes.size())));
+        if (!data) {
+            error = "out of memory";
+            return std::nullopt;
+        }
+        // unconfirmed: check on a Mac first (CFPropertyListCreateWithData is written from Apple's
+        // reference; it reads the XML and the binary forms and says why it failed).
+        CFErrorRef failure = nullptr;
+        const auto list = CFRef<CFPropertyListRef>::adopt(CFPropertyListCreateWithData(
+            kCFAllocatorDefault, data.get(), kCFPropertyListImmutable, nullptr, &failure));
+        if (!list) {
+            const auto owned = CFRef<CFErrorRef>::adopt(failure);
+            if (owned) {
+                const auto description =
+                    CFRef<CFStringRef>::adopt(CFErrorCopyDescription(owned.get()));
+                error = description ? utf8String(description.get()) : "damaged";
+            } else {
+                error = "damaged";
+            }
+            return std::nullopt;
+        }
+        auto value = fromPropertyList(list.get());
+        if (!value) {
+            error = "holds no property list";
+        }
+        return value;
     }
-    return value;
-}
+};
+
+}  // namespace
+
+std::unique_ptr<FileSystem> makeMacFileSystem() { return std::make_unique<MacFileSystem>(); }
 
 }  // namespace quorvane

@@ -1,4 +1,4 @@
-#include "mac/MacFinderExtensionChannel.hpp"
+#include "mac/MacPorts.hpp"
 
 #include <cassert>
 #include <memory>
@@ -43,25 +43,38 @@ using FinderMessageHandler =
 
 namespace quorvane {
 
-Subscription MacFinderExtensionChannel::observe(Handler handler) {
-    @autoreleasepool {
-        auto observer = std::make_shared<FinderMessageHandler>(std::move(handler));
-        QuorvaneFinderRequestRelay* relay =
-            [[QuorvaneFinderRequestRelay alloc] initWithHandler:observer];
-        // unconfirmed: check on a Mac first (-addObserver:selector:name:object:
-        // suspensionBehavior: is written from Apple's reference). Quorvane is an accessory app,
-        // rarely active; without immediate delivery a menu choice would wait until it is.
-        [[NSDistributedNotificationCenter defaultCenter]
-                   addObserver:relay
-                      selector:@selector(deliver:)
-                          name:makeNSString(kNotificationName)
-                        object:nil
-            suspensionBehavior:NSNotificationSuspensionBehaviorDeliverImmediately];
-        return Subscription([observer, relay] {
-            observer->cancelled = true;
-            [[NSDistributedNotificationCenter defaultCenter] removeObserver:relay];
-        });
+namespace {
+
+// The Finder extension's requests, as distributed notifications whose object is the message:
+// a sandboxed sender may not attach a dictionary.
+class MacFinderExtensionChannel final : public FinderExtensionChannel {
+public:
+    Subscription observe(Handler handler) override {
+        @autoreleasepool {
+            auto observer = std::make_shared<FinderMessageHandler>(std::move(handler));
+            QuorvaneFinderRequestRelay* relay =
+                [[QuorvaneFinderRequestRelay alloc] initWithHandler:observer];
+            // unconfirmed: check on a Mac first (-addObserver:selector:name:object:
+            // suspensionBehavior: is written from Apple's reference). Quorvane is an accessory app,
+            // rarely active; without immediate delivery a menu choice would wait until it is.
+            [[NSDistributedNotificationCenter defaultCenter]
+                       addObserver:relay
+                          selector:@selector(deliver:)
+                              name:makeNSString(kNotificationName)
+                            object:nil
+                suspensionBehavior:NSNotificationSuspensionBehaviorDeliverImmediately];
+            return Subscription([observer, relay] {
+                observer->cancelled = true;
+                [[NSDistributedNotificationCenter defaultCenter] removeObserver:relay];
+            });
+        }
     }
+};
+
+}  // namespace
+
+std::unique_ptr<FinderExtensionChannel> makeMacFinderExtensionChannel() {
+    return std::make_unique<MacFinderExtensionChannel>();
 }
 
 }  // namespace quorvane

@@ -1,4 +1,4 @@
-#include "mac/MacFirmwareVariables.hpp"
+#include "mac/MacPorts.hpp"
 
 #include "mac/CFRef.hpp"
 #include "mac/MacFrameworks.h"
@@ -6,31 +6,44 @@
 
 namespace quorvane {
 
-std::optional<std::string> MacFirmwareVariables::value(const std::string& name) {
-    // unconfirmed: check on a Mac first (IORegistryEntryFromPath and the "IODeviceTree:/options"
-    // node, where nvram itself reads variables, are not in the fact sheet).
-    const io_registry_entry_t options =
-        IORegistryEntryFromPath(kIOMainPortDefault, "IODeviceTree:/options");
-    if (options == IO_OBJECT_NULL) {
+namespace {
+
+// NVRAM variables as the I/O Registry's "options" node shows them to any user.
+class MacFirmwareVariables final : public FirmwareVariables {
+public:
+    std::optional<std::string> value(const std::string& name) override {
+        // unconfirmed: check on a Mac first (IORegistryEntryFromPath and the
+        // "IODeviceTree:/options" node, where nvram itself reads variables, are not in the fact
+        // sheet).
+        const io_registry_entry_t options =
+            IORegistryEntryFromPath(kIOMainPortDefault, "IODeviceTree:/options");
+        if (options == IO_OBJECT_NULL) {
+            return std::nullopt;
+        }
+        const auto key = makeCFString(name);
+        const auto property = CFRef<CFTypeRef>::adopt(
+            IORegistryEntryCreateCFProperty(options, key.get(), kCFAllocatorDefault, kNilOptions));
+        IOObjectRelease(options);
+        if (!property) {
+            return std::nullopt;
+        }
+        // Variables are data; a few system ones are strings.
+        if (CFGetTypeID(property.get()) == CFDataGetTypeID()) {
+            const auto data = static_cast<CFDataRef>(property.get());
+            const auto* bytes = reinterpret_cast<const char*>(CFDataGetBytePtr(data));
+            return std::string(bytes, bytes + CFDataGetLength(data));
+        }
+        if (CFGetTypeID(property.get()) == CFStringGetTypeID()) {
+            return utf8String(static_cast<CFStringRef>(property.get()));
+        }
         return std::nullopt;
     }
-    const auto key = makeCFString(name);
-    const auto property = CFRef<CFTypeRef>::adopt(
-        IORegistryEntryCreateCFProperty(options, key.get(), kCFAllocatorDefault, kNilOptions));
-    IOObjectRelease(options);
-    if (!property) {
-        return std::nullopt;
-    }
-    // Variables are data; a few system ones are strings.
-    if (CFGetTypeID(property.get()) == CFDataGetTypeID()) {
-        const auto data = static_cast<CFDataRef>(property.get());
-        const auto* bytes = reinterpret_cast<const char*>(CFDataGetBytePtr(data));
-        return std::string(bytes, bytes + CFDataGetLength(data));
-    }
-    if (CFGetTypeID(property.get()) == CFStringGetTypeID()) {
-        return utf8String(static_cast<CFStringRef>(property.get()));
-    }
-    return std::nullopt;
+};
+
+}  // namespace
+
+std::unique_ptr<FirmwareVariables> makeMacFirmwareVariables() {
+    return std::make_unique<MacFirmwareVariables>();
 }
 
 }  // namespace quorvane

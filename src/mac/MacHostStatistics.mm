@@ -1,4 +1,4 @@
-#include "mac/MacHostStatistics.hpp"
+#include "mac/MacPorts.hpp"
 
 #include <cerrno>
 #include <cstdint>
@@ -42,75 +42,84 @@ private:
     host_t port_;
 };
 
+// The Mach host's processor and memory statistics, hw.memsize, and getifaddrs' link-level
+// interface counters, and statvfs of the startup volume.
+class MacHostStatistics final : public HostStatistics {
+public:
+    int cpuTicks(CpuTicks& ticks) override {
+        HostPort host;
+        host_cpu_load_info_data_t info{};
+        mach_msg_type_number_t count = HOST_CPU_LOAD_INFO_COUNT;
+        const kern_return_t status = host_statistics(host.get(), HOST_CPU_LOAD_INFO,
+                                                     reinterpret_cast<host_info_t>(&info), &count);
+        if (status != KERN_SUCCESS) {
+            return status;
+        }
+        ticks.user = info.cpu_ticks[CPU_STATE_USER];
+        ticks.system = info.cpu_ticks[CPU_STATE_SYSTEM];
+        ticks.idle = info.cpu_ticks[CPU_STATE_IDLE];
+        ticks.nice = info.cpu_ticks[CPU_STATE_NICE];
+        return 0;
+    }
+
+    int memory(Memory& memory) override {
+        HostPort host;
+        vm_statistics64_data_t vm{};
+        mach_msg_type_number_t count = HOST_VM_INFO64_COUNT;
+        kern_return_t status = host_statistics64(host.get(), HOST_VM_INFO64,
+                                                 reinterpret_cast<host_info64_t>(&vm), &count);
+        if (status != KERN_SUCCESS) {
+            return status;
+        }
+        vm_size_t pageSize = 0;
+        status = host_page_size(host.get(), &pageSize);
+        if (status != KERN_SUCCESS) {
+            return status;
+        }
+        std::uint64_t physical = 0;
+        size_t size = sizeof physical;
+        if (sysctlbyname("hw.memsize", &physical, &size, nullptr, 0) != 0) {
+            return errno;
+        }
+        memory.pageSize = pageSize;
+        memory.physicalBytes = physical;
+        memory.wired = vm.wire_count;
+        memory.compressed = vm.compressor_page_count;
+        memory.internal = vm.internal_page_count;
+        memory.purgeable = vm.purgeable_count;
+        return 0;
+    }
+
+    int interfaces(std::vector<Interface>& interfaces) override {
+        ifaddrs* list = nullptr;
+        if (getifaddrs(&list) != 0) {
+            return errno;
+        }
+        interfaces.clear();
+        for (const ifaddrs* entry = list; entry; entry = entry->ifa_next) {
+            if (!entry->ifa_addr || entry->ifa_addr->sa_family != AF_LINK || !entry->ifa_data) {
+                continue;
+            }
+            const auto* data = static_cast<const if_data*>(entry->ifa_data);
+            interfaces.push_back({entry->ifa_name, (entry->ifa_flags & IFF_LOOPBACK) != 0,
+                                  data->ifi_ibytes, data->ifi_obytes});
+        }
+        freeifaddrs(list);
+        return 0;
+    }
+
+    int disk(Disk& disk) override {
+        // "/" is the sealed system volume, but every volume of the startup container shares its
+        // free space, which is what the figure is for. unconfirmed: check on a Mac first that
+        // f_blocks gives the container's size rather than the system volume's.
+        return readDiskSpace("/", disk);
+    }
+};
+
 }  // namespace
 
-int MacHostStatistics::cpuTicks(CpuTicks& ticks) {
-    HostPort host;
-    host_cpu_load_info_data_t info{};
-    mach_msg_type_number_t count = HOST_CPU_LOAD_INFO_COUNT;
-    const kern_return_t status = host_statistics(host.get(), HOST_CPU_LOAD_INFO,
-                                                 reinterpret_cast<host_info_t>(&info), &count);
-    if (status != KERN_SUCCESS) {
-        return status;
-    }
-    ticks.user = info.cpu_ticks[CPU_STATE_USER];
-    ticks.system = info.cpu_ticks[CPU_STATE_SYSTEM];
-    ticks.idle = info.cpu_ticks[CPU_STATE_IDLE];
-    ticks.nice = info.cpu_ticks[CPU_STATE_NICE];
-    return 0;
-}
-
-int MacHostStatistics::memory(Memory& memory) {
-    HostPort host;
-    vm_statistics64_data_t vm{};
-    mach_msg_type_number_t count = HOST_VM_INFO64_COUNT;
-    kern_return_t status =
-        host_statistics64(host.get(), HOST_VM_INFO64, reinterpret_cast<host_info64_t>(&vm), &count);
-    if (status != KERN_SUCCESS) {
-        return status;
-    }
-    vm_size_t pageSize = 0;
-    status = host_page_size(host.get(), &pageSize);
-    if (status != KERN_SUCCESS) {
-        return status;
-    }
-    std::uint64_t physical = 0;
-    size_t size = sizeof physical;
-    if (sysctlbyname("hw.memsize", &physical, &size, nullptr, 0) != 0) {
-        return errno;
-    }
-    memory.pageSize = pageSize;
-    memory.physicalBytes = physical;
-    memory.wired = vm.wire_count;
-    memory.compressed = vm.compressor_page_count;
-    memory.internal = vm.internal_page_count;
-    memory.purgeable = vm.purgeable_count;
-    return 0;
-}
-
-int MacHostStatistics::interfaces(std::vector<Interface>& interfaces) {
-    ifaddrs* list = nullptr;
-    if (getifaddrs(&list) != 0) {
-        return errno;
-    }
-    interfaces.clear();
-    for (const ifaddrs* entry = list; entry; entry = entry->ifa_next) {
-        if (!entry->ifa_addr || entry->ifa_addr->sa_family != AF_LINK || !entry->ifa_data) {
-            continue;
-        }
-        const auto* data = static_cast<const if_data*>(entry->ifa_data);
-        interfaces.push_back({entry->ifa_name, (entry->ifa_flags & IFF_LOOPBACK) != 0,
-                              data->ifi_ibytes, data->ifi_obytes});
-    }
-    freeifaddrs(list);
-    return 0;
-}
-
-int MacHostStatistics::disk(Disk& disk) {
-    // "/" is the sealed system volume, but every volume of the startup container shares its
-    // free space, which is what the figure is for. unconfirmed: check on a Mac first that
-    // f_blocks gives the container's size rather than the system volume's.
-    return readDiskSpace("/", disk);
+std::unique_ptr<HostStatistics> makeMacHostStatistics() {
+    return std::make_unique<MacHostStatistics>();
 }
 
 }  // namespace quorvane

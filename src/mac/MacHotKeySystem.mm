@@ -1,4 +1,4 @@
-#include "mac/MacHotKeySystem.hpp"
+#include "mac/MacPorts.hpp"
 
 #include <cassert>
 
@@ -28,40 +28,52 @@ OSStatus hotKeyPressed(EventHandlerCallRef, EventRef event, void* userData) {
     return static_cast<OSStatus>(noErr);
 }
 
+// Carbon hot keys on the application event target, serviced by the main run loop.
+class MacHotKeySystem final : public HotKeySystem {
+public:
+    MacHotKeySystem() = default;
+    MacHotKeySystem(const MacHotKeySystem&) = delete;
+    MacHotKeySystem& operator=(const MacHotKeySystem&) = delete;
+
+    // Removes the handler, which carries this object as its user data.
+    ~MacHotKeySystem() override {
+        if (installed_) {
+            RemoveEventHandler(installed_);
+        }
+    }
+
+    std::int32_t installHandler(PressedHandler handler) override {
+        handler_ = std::move(handler);
+        if (installed_) {
+            return noErr;
+        }
+        // Pressed only; released events are never asked for.
+        const EventTypeSpec pressed = {kEventClassKeyboard, kEventHotKeyPressed};
+        return InstallEventHandler(GetApplicationEventTarget(), &hotKeyPressed, 1, &pressed,
+                                   &handler_, &installed_);
+    }
+
+    std::int32_t registerHotKey(std::uint32_t keyCode, std::uint32_t carbonModifiers,
+                                std::uint32_t signature, std::uint32_t id, Ref& ref) override {
+        const EventHotKeyID hotKeyID = {static_cast<OSType>(signature), id};
+        EventHotKeyRef hotKey = nullptr;
+        const OSStatus status = RegisterEventHotKey(keyCode, carbonModifiers, hotKeyID,
+                                                    GetApplicationEventTarget(), 0, &hotKey);
+        ref = reinterpret_cast<Ref>(hotKey);
+        return status;
+    }
+
+    std::int32_t unregisterHotKey(Ref ref) override {
+        return UnregisterEventHotKey(reinterpret_cast<EventHotKeyRef>(ref));
+    }
+
+private:
+    PressedHandler handler_;
+    EventHandlerRef installed_ = nullptr;
+};
+
 }  // namespace
 
-MacHotKeySystem::~MacHotKeySystem() {
-    if (installed_) {
-        RemoveEventHandler(static_cast<EventHandlerRef>(installed_));
-    }
-}
-
-std::int32_t MacHotKeySystem::installHandler(PressedHandler handler) {
-    handler_ = std::move(handler);
-    if (installed_) {
-        return noErr;
-    }
-    // Pressed only; released events are never asked for.
-    const EventTypeSpec pressed = {kEventClassKeyboard, kEventHotKeyPressed};
-    EventHandlerRef ref = nullptr;
-    const OSStatus status = InstallEventHandler(GetApplicationEventTarget(), &hotKeyPressed, 1,
-                                                &pressed, &handler_, &ref);
-    installed_ = ref;
-    return status;
-}
-
-std::int32_t MacHotKeySystem::registerHotKey(std::uint32_t keyCode, std::uint32_t carbonModifiers,
-                                             std::uint32_t signature, std::uint32_t id, Ref& ref) {
-    const EventHotKeyID hotKeyID = {static_cast<OSType>(signature), id};
-    EventHotKeyRef hotKey = nullptr;
-    const OSStatus status = RegisterEventHotKey(keyCode, carbonModifiers, hotKeyID,
-                                                GetApplicationEventTarget(), 0, &hotKey);
-    ref = reinterpret_cast<Ref>(hotKey);
-    return status;
-}
-
-std::int32_t MacHotKeySystem::unregisterHotKey(Ref ref) {
-    return UnregisterEventHotKey(reinterpret_cast<EventHotKeyRef>(ref));
-}
+std::unique_ptr<HotKeySystem> makeMacHotKeySystem() { return std::make_unique<MacHotKeySystem>(); }
 
 }  // namespace quorvane

@@ -1,4 +1,4 @@
-#include "mac/MacKeyboardLayout.hpp"
+#include "mac/MacPorts.hpp"
 
 #include <cassert>
 
@@ -37,96 +37,113 @@ CFRef<CFArrayRef> selectableKeyboardSources() {
         TISCreateInputSourceList((__bridge CFDictionaryRef)filter, false));
 }
 
-}  // namespace
+// The current keyboard layout through Text Input Sources and UCKeyTranslate, and the keyboard
+// input sources the user enabled. Changes of the selected source arrive as a distributed
+// notification, observed through the workspace so they are delivered while Quorvane is not
+// the active app.
+class MacKeyboardLayout final : public KeyboardLayout {
+public:
+    explicit MacKeyboardLayout(Workspace& workspace) : workspace_(workspace) {}
 
-std::map<std::uint16_t, std::u16string> MacKeyboardLayout::characters() {
-    // Text Input Sources are not thread safe and belong to the main thread.
-    assert([NSThread isMainThread]);
-    std::map<std::uint16_t, std::u16string> result;
-    const auto layout = CFRef<TISInputSourceRef>::adopt(TISCopyCurrentKeyboardLayoutInputSource());
-    if (!layout) {
-        return result;
-    }
-    // A Get: the data belongs to the input source, which outlives its use here. Layouts with
-    // only old 'KCHR' data answer NULL.
-    const auto data = static_cast<CFDataRef>(
-        TISGetInputSourceProperty(layout.get(), kTISPropertyUnicodeKeyLayoutData));
-    if (!data) {
-        return result;
-    }
-    const auto* keyLayout = reinterpret_cast<const UCKeyboardLayout*>(CFDataGetBytePtr(data));
-    const UInt32 keyboardType = LMGetKbdType();
-    for (UInt16 keyCode = 0; keyCode < kKeyCodeCount; ++keyCode) {
-        UInt32 deadKeyState = 0;
-        UniChar characters[kMaxLength] = {};
-        UniCharCount length = 0;
-        // No modifiers; dead keys (´ on many European layouts) answer their own character
-        // instead of waiting for the next key.
-        const OSStatus status = UCKeyTranslate(keyLayout, keyCode, kUCKeyActionDown, 0,
-                                               keyboardType, kUCKeyTranslateNoDeadKeysMask,
-                                               &deadKeyState, kMaxLength, &length, characters);
-        if (status == noErr && length > 0) {
-            result[keyCode] = std::u16string(characters, characters + length);
+    std::map<std::uint16_t, std::u16string> characters() override {
+        // Text Input Sources are not thread safe and belong to the main thread.
+        assert([NSThread isMainThread]);
+        std::map<std::uint16_t, std::u16string> result;
+        const auto layout =
+            CFRef<TISInputSourceRef>::adopt(TISCopyCurrentKeyboardLayoutInputSource());
+        if (!layout) {
+            return result;
         }
-    }
-    return result;
-}
-
-std::vector<InputSource> MacKeyboardLayout::inputSources() {
-    assert([NSThread isMainThread]);
-    std::vector<InputSource> sources;
-    @autoreleasepool {
-        const auto list = selectableKeyboardSources();
-        if (!list) {
-            return sources;
+        // A Get: the data belongs to the input source, which outlives its use here. Layouts with
+        // only old 'KCHR' data answer NULL.
+        const auto data = static_cast<CFDataRef>(
+            TISGetInputSourceProperty(layout.get(), kTISPropertyUnicodeKeyLayoutData));
+        if (!data) {
+            return result;
         }
-        for (CFIndex i = 0; i < CFArrayGetCount(list.get()); ++i) {
-            // A Get: the array owns its elements.
-            const auto source = static_cast<TISInputSourceRef>(
-                const_cast<void*>(CFArrayGetValueAtIndex(list.get(), i)));
-            sources.push_back({stringProperty(source, kTISPropertyInputSourceID),
-                               stringProperty(source, kTISPropertyLocalizedName)});
-        }
-    }
-    return sources;
-}
-
-std::optional<std::string> MacKeyboardLayout::currentInputSourceID() {
-    assert([NSThread isMainThread]);
-    const auto source = CFRef<TISInputSourceRef>::adopt(TISCopyCurrentKeyboardInputSource());
-    if (!source) {
-        return std::nullopt;
-    }
-    std::string id = stringProperty(source.get(), kTISPropertyInputSourceID);
-    return id.empty() ? std::nullopt : std::optional(std::move(id));
-}
-
-bool MacKeyboardLayout::selectInputSource(const std::string& id) {
-    assert([NSThread isMainThread]);
-    @autoreleasepool {
-        const auto list = selectableKeyboardSources();
-        if (!list) {
-            return false;
-        }
-        for (CFIndex i = 0; i < CFArrayGetCount(list.get()); ++i) {
-            const auto source = static_cast<TISInputSourceRef>(
-                const_cast<void*>(CFArrayGetValueAtIndex(list.get(), i)));
-            if (stringProperty(source, kTISPropertyInputSourceID) == id) {
-                // unconfirmed: check on a Mac first (TISSelectInputSource is not in the fact
-                // sheet). Some CJK input methods are reported to take the selection only after
-                // the focus changes.
-                return TISSelectInputSource(source) == noErr;
+        const auto* keyLayout = reinterpret_cast<const UCKeyboardLayout*>(CFDataGetBytePtr(data));
+        const UInt32 keyboardType = LMGetKbdType();
+        for (UInt16 keyCode = 0; keyCode < kKeyCodeCount; ++keyCode) {
+            UInt32 deadKeyState = 0;
+            UniChar characters[kMaxLength] = {};
+            UniCharCount length = 0;
+            // No modifiers; dead keys (´ on many European layouts) answer their own character
+            // instead of waiting for the next key.
+            const OSStatus status = UCKeyTranslate(keyLayout, keyCode, kUCKeyActionDown, 0,
+                                                   keyboardType, kUCKeyTranslateNoDeadKeysMask,
+                                                   &deadKeyState, kMaxLength, &length, characters);
+            if (status == noErr && length > 0) {
+                result[keyCode] = std::u16string(characters, characters + length);
             }
         }
+        return result;
     }
-    return false;
-}
 
-Subscription MacKeyboardLayout::observeInputSourceChanges(std::function<void()> handler) {
-    // unconfirmed: check on a Mac first (kTISNotifySelectedKeyboardInputSourceChanged is posted
-    // to the distributed notification centre, by Apple's reference; not in the fact sheet).
-    return workspace_.observeDistributed(utf8String(kTISNotifySelectedKeyboardInputSourceChanged),
-                                         std::move(handler));
+    std::vector<InputSource> inputSources() override {
+        assert([NSThread isMainThread]);
+        std::vector<InputSource> sources;
+        @autoreleasepool {
+            const auto list = selectableKeyboardSources();
+            if (!list) {
+                return sources;
+            }
+            for (CFIndex i = 0; i < CFArrayGetCount(list.get()); ++i) {
+                // A Get: the array owns its elements.
+                const auto source = static_cast<TISInputSourceRef>(
+                    const_cast<void*>(CFArrayGetValueAtIndex(list.get(), i)));
+                sources.push_back({stringProperty(source, kTISPropertyInputSourceID),
+                                   stringProperty(source, kTISPropertyLocalizedName)});
+            }
+        }
+        return sources;
+    }
+
+    std::optional<std::string> currentInputSourceID() override {
+        assert([NSThread isMainThread]);
+        const auto source = CFRef<TISInputSourceRef>::adopt(TISCopyCurrentKeyboardInputSource());
+        if (!source) {
+            return std::nullopt;
+        }
+        std::string id = stringProperty(source.get(), kTISPropertyInputSourceID);
+        return id.empty() ? std::nullopt : std::optional(std::move(id));
+    }
+
+    bool selectInputSource(const std::string& id) override {
+        assert([NSThread isMainThread]);
+        @autoreleasepool {
+            const auto list = selectableKeyboardSources();
+            if (!list) {
+                return false;
+            }
+            for (CFIndex i = 0; i < CFArrayGetCount(list.get()); ++i) {
+                const auto source = static_cast<TISInputSourceRef>(
+                    const_cast<void*>(CFArrayGetValueAtIndex(list.get(), i)));
+                if (stringProperty(source, kTISPropertyInputSourceID) == id) {
+                    // unconfirmed: check on a Mac first (TISSelectInputSource is not in the fact
+                    // sheet). Some CJK input methods are reported to take the selection only after
+                    // the focus changes.
+                    return TISSelectInputSource(source) == noErr;
+                }
+            }
+        }
+        return false;
+    }
+
+    [[nodiscard]] Subscription observeInputSourceChanges(std::function<void()> handler) override {
+        // unconfirmed: check on a Mac first (kTISNotifySelectedKeyboardInputSourceChanged is posted
+        // to the distributed notification centre, by Apple's reference; not in the fact sheet).
+        return workspace_.observeDistributed(
+            utf8String(kTISNotifySelectedKeyboardInputSourceChanged), std::move(handler));
+    }
+
+private:
+    Workspace& workspace_;
+};
+
+}  // namespace
+
+std::unique_ptr<KeyboardLayout> makeMacKeyboardLayout(Workspace& workspace) {
+    return std::make_unique<MacKeyboardLayout>(workspace);
 }
 
 }  // namespace quorvane

@@ -2,10 +2,12 @@
 #error "Compile with -fobjc-arc"
 #endif
 
-#include "mac/MacListPanel.hpp"
+#include "mac/MacPorts.hpp"
 
+#include <memory>
 #include <string>
 
+#include "mac/MacFrameworks.h"
 #include "mac/MacStrings.hpp"
 #include "mac/MacViews.hpp"
 
@@ -347,24 +349,44 @@ using quorvane::ListPanelRow;
 
 namespace quorvane {
 
-MacListPanel::MacListPanel(Handlers handlers)
-    : controller_([[QVListPanelController alloc] initWithHandlers:std::move(handlers)]) {}
+namespace {
 
-MacListPanel::~MacListPanel() { [controller_ close]; }
+// The floating list as a borderless, non-activating NSPanel that can still become key: a
+// search field over a table of rows and a footer line. It draws the content it is given and
+// passes clicks, hovering, typing and the loss of key status to the handlers; every decision
+// about them is made by the portable code behind the handlers.
+class MacListPanel final : public ListPanel {
+public:
+    explicit MacListPanel(Handlers handlers)
+        : controller_([[QVListPanelController alloc] initWithHandlers:std::move(handlers)]) {}
+    MacListPanel(const MacListPanel&) = delete;
+    MacListPanel& operator=(const MacListPanel&) = delete;
 
-void MacListPanel::setContent(const ListPanelContent& content) {
-    @autoreleasepool {
-        [controller_ setContent:content];
+    ~MacListPanel() override { [controller_ close]; }
+
+    void setContent(const ListPanelContent& content) override {
+        @autoreleasepool {
+            [controller_ setContent:content];
+        }
     }
+
+    void show(const Rect& frame) override {
+        [controller_
+            showAt:NSMakeRect(frame.origin.x, frame.origin.y, frame.size.width, frame.size.height)];
+    }
+
+    void close() override { [controller_ close]; }
+
+    bool isVisible() const override { return [controller_ isVisible]; }
+
+private:
+    QVListPanelController* controller_;
+};
+
+}  // namespace
+
+std::unique_ptr<ListPanel> makeMacListPanel(ListPanel::Handlers handlers) {
+    return std::make_unique<MacListPanel>(std::move(handlers));
 }
-
-void MacListPanel::show(const Rect& frame) {
-    [controller_
-        showAt:NSMakeRect(frame.origin.x, frame.origin.y, frame.size.width, frame.size.height)];
-}
-
-void MacListPanel::close() { [controller_ close]; }
-
-bool MacListPanel::isVisible() const { return [controller_ isVisible]; }
 
 }  // namespace quorvane

@@ -1,4 +1,4 @@
-#include "mac/MacLoginItem.hpp"
+#include "mac/MacPorts.hpp"
 
 #include "mac/MacFrameworks.h"
 #include "mac/MacStrings.hpp"
@@ -16,25 +16,31 @@ std::string describe(BOOL succeeded, NSError* error) {
     return error ? utf8String(error.localizedDescription) : std::string("unknown error");
 }
 
+// The main app service of ServiceManagement: Quorvane itself as a login item.
+class MacLoginItem final : public LoginItem {
+public:
+    LoginItem::Status status() const override {
+        // The raw values match: not registered 0, enabled 1, requires approval 2, not found 3.
+        return static_cast<Status>(SMAppService.mainAppService.status);
+    }
+
+    std::string registerItem() override {
+        NSError* error = nil;
+        const BOOL registered = [SMAppService.mainAppService registerAndReturnError:&error];
+        return describe(registered, error);
+    }
+
+    std::string unregisterItem() override {
+        NSError* error = nil;
+        const BOOL unregistered = [SMAppService.mainAppService unregisterAndReturnError:&error];
+        return describe(unregistered, error);
+    }
+
+    void openLoginItemsSettings() override { [SMAppService openSystemSettingsLoginItems]; }
+};
+
 }  // namespace
 
-LoginItem::Status MacLoginItem::status() const {
-    // The raw values match: not registered 0, enabled 1, requires approval 2, not found 3.
-    return static_cast<Status>(SMAppService.mainAppService.status);
-}
-
-std::string MacLoginItem::registerItem() {
-    NSError* error = nil;
-    const BOOL registered = [SMAppService.mainAppService registerAndReturnError:&error];
-    return describe(registered, error);
-}
-
-std::string MacLoginItem::unregisterItem() {
-    NSError* error = nil;
-    const BOOL unregistered = [SMAppService.mainAppService unregisterAndReturnError:&error];
-    return describe(unregistered, error);
-}
-
-void MacLoginItem::openLoginItemsSettings() { [SMAppService openSystemSettingsLoginItems]; }
+std::unique_ptr<LoginItem> makeMacLoginItem() { return std::make_unique<MacLoginItem>(); }
 
 }  // namespace quorvane

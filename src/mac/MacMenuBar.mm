@@ -1,4 +1,4 @@
-#include "mac/MacMenuBar.hpp"
+#include "mac/MacPorts.hpp"
 
 #include <cassert>
 #include <memory>
@@ -168,36 +168,44 @@ NSView* makeContentView(const PanelContent& content) {
                       content.kind);
 }
 
+// NSStatusBar's items, NSPopover, NSEvent's global monitors and NSApplication's activation.
+// Main thread only.
+class MacMenuBar final : public MenuBar {
+public:
+    std::unique_ptr<StatusItem> makeStatusItem(double length) override {
+        return std::make_unique<MacStatusItem>(length);
+    }
+
+    std::unique_ptr<Popover> makePopover(const PanelContent& content,
+                                         PopoverBehavior behavior) override {
+        return std::make_unique<MacPopover>(makeContentView(content), behavior);
+    }
+
+    Subscription addGlobalMonitor(std::uint64_t eventMask, std::function<void()> handler) override {
+        auto callback = std::make_shared<Callback>(std::move(handler));
+        id monitor =
+            [NSEvent addGlobalMonitorForEventsMatchingMask:static_cast<NSEventMask>(eventMask)
+                                                   handler:^(NSEvent*) {
+                                                     // Hop to the main loop before
+                                                     // touching the panel.
+                                                     runSoon(^{
+                                                       run(callback);
+                                                     });
+                                                   }];
+        if (!monitor) {
+            return {};
+        }
+        return Subscription([callback, monitor] {
+            callback->cancelled = true;
+            [NSEvent removeMonitor:monitor];
+        });
+    }
+
+    void activateApplication() override { [NSApp activate]; }
+};
+
 }  // namespace
 
-std::unique_ptr<StatusItem> MacMenuBar::makeStatusItem(double length) {
-    return std::make_unique<MacStatusItem>(length);
-}
-
-std::unique_ptr<Popover> MacMenuBar::makePopover(const PanelContent& content,
-                                                 PopoverBehavior behavior) {
-    return std::make_unique<MacPopover>(makeContentView(content), behavior);
-}
-
-Subscription MacMenuBar::addGlobalMonitor(std::uint64_t eventMask, std::function<void()> handler) {
-    auto callback = std::make_shared<Callback>(std::move(handler));
-    id monitor = [NSEvent addGlobalMonitorForEventsMatchingMask:static_cast<NSEventMask>(eventMask)
-                                                        handler:^(NSEvent*) {
-                                                          // Hop to the main loop before
-                                                          // touching the panel.
-                                                          runSoon(^{
-                                                            run(callback);
-                                                          });
-                                                        }];
-    if (!monitor) {
-        return {};
-    }
-    return Subscription([callback, monitor] {
-        callback->cancelled = true;
-        [NSEvent removeMonitor:monitor];
-    });
-}
-
-void MacMenuBar::activateApplication() { [NSApp activate]; }
+std::unique_ptr<MenuBar> makeMacMenuBar() { return std::make_unique<MacMenuBar>(); }
 
 }  // namespace quorvane

@@ -2,7 +2,9 @@
 #error "Compile with -fobjc-arc"
 #endif
 
-#include "mac/MacOverlay.hpp"
+#include "mac/MacPorts.hpp"
+
+#include "mac/MacFrameworks.h"
 
 // Notes, from Apple's NSWindow reference (check on a Mac first):
 // - orderWindow:relativeTo: takes the other window's windowNumber; windowNumber is the window
@@ -15,36 +17,51 @@
 
 namespace quorvane {
 
-MacOverlay::MacOverlay() {
-    window_ = [[NSWindow alloc] initWithContentRect:NSZeroRect
-                                          styleMask:NSWindowStyleMaskBorderless
-                                            backing:NSBackingStoreBuffered
-                                              defer:NO];
-    window_.opaque = NO;
-    window_.backgroundColor = [NSColor blackColor];
-    window_.hasShadow = NO;
-    window_.ignoresMouseEvents = YES;
-    window_.releasedWhenClosed = NO;
-    window_.level = NSNormalWindowLevel;
-    // On every Space, left in place by Mission Control, out of ⌘` cycling.
-    window_.collectionBehavior = NSWindowCollectionBehaviorCanJoinAllSpaces |
-                                 NSWindowCollectionBehaviorStationary |
-                                 NSWindowCollectionBehaviorIgnoresCycle;
-}
+namespace {
 
-MacOverlay::~MacOverlay() { [window_ orderOut:nil]; }
+// A borderless, click-through black NSWindow whose opacity is the shade.
+class MacOverlay final : public Overlay {
+public:
+    MacOverlay() {
+        window_ = [[NSWindow alloc] initWithContentRect:NSZeroRect
+                                              styleMask:NSWindowStyleMaskBorderless
+                                                backing:NSBackingStoreBuffered
+                                                  defer:NO];
+        window_.opaque = NO;
+        window_.backgroundColor = [NSColor blackColor];
+        window_.hasShadow = NO;
+        window_.ignoresMouseEvents = YES;
+        window_.releasedWhenClosed = NO;
+        window_.level = NSNormalWindowLevel;
+        // On every Space, left in place by Mission Control, out of ⌘` cycling.
+        window_.collectionBehavior = NSWindowCollectionBehaviorCanJoinAllSpaces |
+                                     NSWindowCollectionBehaviorStationary |
+                                     NSWindowCollectionBehaviorIgnoresCycle;
+    }
+    MacOverlay(const MacOverlay&) = delete;
+    MacOverlay& operator=(const MacOverlay&) = delete;
 
-void MacOverlay::setFrame(const Rect& frame) {
-    [window_ setFrame:NSMakeRect(frame.minX(), frame.minY(), frame.width(), frame.height())
-              display:YES];
-}
+    ~MacOverlay() override { [window_ orderOut:nil]; }
 
-void MacOverlay::setAlpha(double alpha) { window_.alphaValue = alpha; }
+    void setFrame(const Rect& frame) override {
+        [window_ setFrame:NSMakeRect(frame.minX(), frame.minY(), frame.width(), frame.height())
+                  display:YES];
+    }
 
-void MacOverlay::orderBelow(std::uint32_t windowNumber) {
-    [window_ orderWindow:NSWindowBelow relativeTo:static_cast<NSInteger>(windowNumber)];
-}
+    void setAlpha(double alpha) override { window_.alphaValue = alpha; }
 
-void MacOverlay::orderOut() { [window_ orderOut:nil]; }
+    void orderBelow(std::uint32_t windowNumber) override {
+        [window_ orderWindow:NSWindowBelow relativeTo:static_cast<NSInteger>(windowNumber)];
+    }
+
+    void orderOut() override { [window_ orderOut:nil]; }
+
+private:
+    NSWindow* window_;
+};
+
+}  // namespace
+
+std::unique_ptr<Overlay> makeMacOverlay() { return std::make_unique<MacOverlay>(); }
 
 }  // namespace quorvane

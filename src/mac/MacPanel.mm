@@ -1,5 +1,8 @@
-#include "mac/MacPanel.hpp"
+#include "mac/MacPorts.hpp"
 
+#include <memory>
+
+#include "mac/MacFrameworks.h"
 #include "mac/MacStrings.hpp"
 #include "mac/MacViews.hpp"
 #include "ui/LevelBar.hpp"
@@ -100,69 +103,83 @@ NSView* makeCard(const HUDCard& card) {
     return outer;
 }
 
+// A non-activating NSPanel that shows a HUDCard drawn with AppKit views.
+class MacPanel final : public Panel {
+public:
+    MacPanel() {
+        // Non-activating (style mask 128): showing it never takes focus from the user's app.
+        panel_ = [[NSPanel alloc] initWithContentRect:NSZeroRect
+                                            styleMask:NSWindowStyleMaskNonactivatingPanel
+                                              backing:NSBackingStoreBuffered
+                                                defer:NO];
+        panel_.level = NSStatusWindowLevel;
+        panel_.opaque = NO;
+        panel_.backgroundColor = [NSColor clearColor];
+        panel_.hasShadow = NO;
+        panel_.ignoresMouseEvents = YES;
+        panel_.releasedWhenClosed = NO;
+        // A panel hides when its app deactivates by default; Quorvane is an accessory app that is
+        // almost never active, so the card would vanish at once or never show.
+        panel_.hidesOnDeactivate = NO;
+        // 337: on every Space, stationary, out of window cycling, over full-screen apps.
+        panel_.collectionBehavior =
+            NSWindowCollectionBehaviorCanJoinAllSpaces | NSWindowCollectionBehaviorStationary |
+            NSWindowCollectionBehaviorIgnoresCycle | NSWindowCollectionBehaviorFullScreenAuxiliary;
+    }
+    MacPanel(const MacPanel&) = delete;
+    MacPanel& operator=(const MacPanel&) = delete;
+
+    ~MacPanel() override {
+        *alive_ = false;
+        [panel_ orderOut:nil];
+    }
+
+    void setContent(const HUDCard& card) override {
+        @autoreleasepool {
+            panel_.contentView = makeCard(card);
+        }
+    }
+
+    Size fittingSize() const override {
+        const NSSize size = panel_.contentView.fittingSize;
+        return {size.width, size.height};
+    }
+
+    void setFrame(const Rect& frame) override {
+        [panel_
+            setFrame:NSMakeRect(frame.origin.x, frame.origin.y, frame.size.width, frame.size.height)
+             display:YES];
+    }
+
+    void fadeTo(double alpha, Seconds duration, std::function<void()> completion) override {
+        NSPanel* panel = panel_;
+        const std::shared_ptr<bool> alive = alive_;
+        [NSAnimationContext
+            runAnimationGroup:^(NSAnimationContext* context) {
+              context.duration = duration.count();
+              panel.animator.alphaValue = alpha;
+            }
+            completionHandler:^{
+              if (*alive && completion) {
+                  completion();
+              }
+            }];
+    }
+
+    void orderFrontRegardless() override { [panel_ orderFrontRegardless]; }
+
+    void orderOut() override { [panel_ orderOut:nil]; }
+
+    bool isVisible() const override { return panel_.visible; }
+
+private:
+    NSPanel* panel_;
+    // Read by pending fade completions, which must not run once the panel is gone.
+    std::shared_ptr<bool> alive_ = std::make_shared<bool>(true);
+};
+
 }  // namespace
 
-MacPanel::MacPanel() {
-    // Non-activating (style mask 128): showing it never takes focus from the user's app.
-    panel_ = [[NSPanel alloc] initWithContentRect:NSZeroRect
-                                        styleMask:NSWindowStyleMaskNonactivatingPanel
-                                          backing:NSBackingStoreBuffered
-                                            defer:NO];
-    panel_.level = NSStatusWindowLevel;
-    panel_.opaque = NO;
-    panel_.backgroundColor = [NSColor clearColor];
-    panel_.hasShadow = NO;
-    panel_.ignoresMouseEvents = YES;
-    panel_.releasedWhenClosed = NO;
-    // A panel hides when its app deactivates by default; Quorvane is an accessory app that is
-    // almost never active, so the card would vanish at once or never show.
-    panel_.hidesOnDeactivate = NO;
-    // 337: on every Space, stationary, out of window cycling, over full-screen apps.
-    panel_.collectionBehavior =
-        NSWindowCollectionBehaviorCanJoinAllSpaces | NSWindowCollectionBehaviorStationary |
-        NSWindowCollectionBehaviorIgnoresCycle | NSWindowCollectionBehaviorFullScreenAuxiliary;
-}
-
-MacPanel::~MacPanel() {
-    *alive_ = false;
-    [panel_ orderOut:nil];
-}
-
-void MacPanel::setContent(const HUDCard& card) {
-    @autoreleasepool {
-        panel_.contentView = makeCard(card);
-    }
-}
-
-Size MacPanel::fittingSize() const {
-    const NSSize size = panel_.contentView.fittingSize;
-    return {size.width, size.height};
-}
-
-void MacPanel::setFrame(const Rect& frame) {
-    [panel_ setFrame:NSMakeRect(frame.origin.x, frame.origin.y, frame.size.width, frame.size.height)
-             display:YES];
-}
-
-void MacPanel::fadeTo(double alpha, Seconds duration, std::function<void()> completion) {
-    NSPanel* panel = panel_;
-    const std::shared_ptr<bool> alive = alive_;
-    [NSAnimationContext
-        runAnimationGroup:^(NSAnimationContext* context) {
-          context.duration = duration.count();
-          panel.animator.alphaValue = alpha;
-        }
-        completionHandler:^{
-          if (*alive && completion) {
-              completion();
-          }
-        }];
-}
-
-void MacPanel::orderFrontRegardless() { [panel_ orderFrontRegardless]; }
-
-void MacPanel::orderOut() { [panel_ orderOut:nil]; }
-
-bool MacPanel::isVisible() const { return panel_.visible; }
+std::unique_ptr<Panel> makeMacPanel() { return std::make_unique<MacPanel>(); }
 
 }  // namespace quorvane

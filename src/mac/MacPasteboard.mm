@@ -1,4 +1,4 @@
-#include "mac/MacPasteboard.hpp"
+#include "mac/MacPorts.hpp"
 
 #include "mac/MacFrameworks.h"
 #include "mac/MacStrings.hpp"
@@ -27,120 +27,126 @@ std::vector<std::string> toStrings(NSArray<NSString*>* strings) {
 
 NSPasteboard* general() { return NSPasteboard.generalPasteboard; }
 
-}  // namespace
+// The general pasteboard through NSPasteboard.
+class MacPasteboard final : public Pasteboard {
+public:
+    std::int64_t changeCount() override { return static_cast<std::int64_t>(general().changeCount); }
 
-std::int64_t MacPasteboard::changeCount() {
-    return static_cast<std::int64_t>(general().changeCount);
-}
-
-std::vector<std::string> MacPasteboard::types() {
-    @autoreleasepool {
-        return toStrings(general().types);
-    }
-}
-
-std::vector<std::vector<std::string>> MacPasteboard::itemTypes() {
-    @autoreleasepool {
-        std::vector<std::vector<std::string>> result;
-        // unconfirmed: check on a Mac first (NSPasteboardItem's `types` property is not in the
-        // fact sheet).
-        for (NSPasteboardItem* item in general().pasteboardItems) {
-            result.push_back(toStrings(item.types));
+    std::vector<std::string> types() override {
+        @autoreleasepool {
+            return toStrings(general().types);
         }
-        return result;
     }
-}
 
-std::optional<std::string> MacPasteboard::string(const std::string& type) {
-    @autoreleasepool {
-        NSString* string = [general() stringForType:text(type)];
-        return string ? std::optional(utf8String(string)) : std::nullopt;
-    }
-}
-
-std::optional<std::vector<std::uint8_t>> MacPasteboard::data(const std::string& type) {
-    @autoreleasepool {
-        NSData* data = [general() dataForType:text(type)];
-        return data ? std::optional(toBytes(data)) : std::nullopt;
-    }
-}
-
-std::vector<std::string> MacPasteboard::filePaths() {
-    @autoreleasepool {
-        std::vector<std::string> paths;
-        NSArray* urls = [general() readObjectsForClasses:@[ [NSURL class] ]
-                                                 options:@{
-                                                     NSPasteboardURLReadingFileURLsOnlyKey : @YES
-                                                 }];
-        for (NSURL* url in urls) {
-            // unconfirmed: check on a Mac first (NSURL's `path` is not in the fact sheet).
-            if (NSString* path = url.path) {
-                paths.push_back(utf8String(path));
+    std::vector<std::vector<std::string>> itemTypes() override {
+        @autoreleasepool {
+            std::vector<std::vector<std::string>> result;
+            // unconfirmed: check on a Mac first (NSPasteboardItem's `types` property is not in the
+            // fact sheet).
+            for (NSPasteboardItem* item in general().pasteboardItems) {
+                result.push_back(toStrings(item.types));
             }
+            return result;
         }
-        return paths;
     }
-}
 
-std::vector<PasteboardItem> MacPasteboard::items() {
-    @autoreleasepool {
-        std::vector<PasteboardItem> result;
-        // unconfirmed: check on a Mac first (-[NSPasteboardItem dataForType:] is not in the
-        // fact sheet; a type whose data cannot be produced answers nil and is left out).
-        for (NSPasteboardItem* item in general().pasteboardItems) {
-            PasteboardItem copy;
-            for (NSPasteboardType type in item.types) {
-                if (NSData* data = [item dataForType:type]) {
-                    copy.representations.push_back({utf8String(type), toBytes(data)});
+    std::optional<std::string> string(const std::string& type) override {
+        @autoreleasepool {
+            NSString* string = [general() stringForType:text(type)];
+            return string ? std::optional(utf8String(string)) : std::nullopt;
+        }
+    }
+
+    std::optional<std::vector<std::uint8_t>> data(const std::string& type) override {
+        @autoreleasepool {
+            NSData* data = [general() dataForType:text(type)];
+            return data ? std::optional(toBytes(data)) : std::nullopt;
+        }
+    }
+
+    std::vector<std::string> filePaths() override {
+        @autoreleasepool {
+            std::vector<std::string> paths;
+            NSArray* urls =
+                [general() readObjectsForClasses:@[ [NSURL class] ]
+                                         options:@{
+                                             NSPasteboardURLReadingFileURLsOnlyKey : @YES
+                                         }];
+            for (NSURL* url in urls) {
+                // unconfirmed: check on a Mac first (NSURL's `path` is not in the fact sheet).
+                if (NSString* path = url.path) {
+                    paths.push_back(utf8String(path));
                 }
             }
-            result.push_back(std::move(copy));
+            return paths;
         }
-        return result;
     }
-}
 
-std::int64_t MacPasteboard::clearContents() {
-    return static_cast<std::int64_t>([general() clearContents]);
-}
-
-bool MacPasteboard::setString(const std::string& string, const std::string& type) {
-    @autoreleasepool {
-        return [general() setString:text(string) forType:text(type)];
-    }
-}
-
-bool MacPasteboard::setData(const std::vector<std::uint8_t>& bytes, const std::string& type) {
-    @autoreleasepool {
-        return [general() setData:toNSData(bytes) forType:text(type)];
-    }
-}
-
-bool MacPasteboard::writeFilePaths(const std::vector<std::string>& paths) {
-    @autoreleasepool {
-        NSMutableArray* urls = [NSMutableArray array];
-        for (const std::string& path : paths) {
-            // unconfirmed: check on a Mac first (+fileURLWithPath: is not in the fact sheet).
-            [urls addObject:[NSURL fileURLWithPath:text(path)]];
-        }
-        return [general() writeObjects:urls];
-    }
-}
-
-bool MacPasteboard::writeItems(const std::vector<PasteboardItem>& items) {
-    @autoreleasepool {
-        NSMutableArray* objects = [NSMutableArray array];
-        for (const PasteboardItem& item : items) {
-            // unconfirmed: check on a Mac first (NSPasteboardItem's -init and -setData:forType:
-            // are not in the fact sheet).
-            NSPasteboardItem* written = [[NSPasteboardItem alloc] init];
-            for (const auto& representation : item.representations) {
-                [written setData:toNSData(representation.bytes) forType:text(representation.type)];
+    std::vector<PasteboardItem> items() override {
+        @autoreleasepool {
+            std::vector<PasteboardItem> result;
+            // unconfirmed: check on a Mac first (-[NSPasteboardItem dataForType:] is not in the
+            // fact sheet; a type whose data cannot be produced answers nil and is left out).
+            for (NSPasteboardItem* item in general().pasteboardItems) {
+                PasteboardItem copy;
+                for (NSPasteboardType type in item.types) {
+                    if (NSData* data = [item dataForType:type]) {
+                        copy.representations.push_back({utf8String(type), toBytes(data)});
+                    }
+                }
+                result.push_back(std::move(copy));
             }
-            [objects addObject:written];
+            return result;
         }
-        return [general() writeObjects:objects];
     }
-}
+
+    std::int64_t clearContents() override {
+        return static_cast<std::int64_t>([general() clearContents]);
+    }
+
+    bool setString(const std::string& string, const std::string& type) override {
+        @autoreleasepool {
+            return [general() setString:text(string) forType:text(type)];
+        }
+    }
+
+    bool setData(const std::vector<std::uint8_t>& bytes, const std::string& type) override {
+        @autoreleasepool {
+            return [general() setData:toNSData(bytes) forType:text(type)];
+        }
+    }
+
+    bool writeFilePaths(const std::vector<std::string>& paths) override {
+        @autoreleasepool {
+            NSMutableArray* urls = [NSMutableArray array];
+            for (const std::string& path : paths) {
+                // unconfirmed: check on a Mac first (+fileURLWithPath: is not in the fact sheet).
+                [urls addObject:[NSURL fileURLWithPath:text(path)]];
+            }
+            return [general() writeObjects:urls];
+        }
+    }
+
+    bool writeItems(const std::vector<PasteboardItem>& items) override {
+        @autoreleasepool {
+            NSMutableArray* objects = [NSMutableArray array];
+            for (const PasteboardItem& item : items) {
+                // unconfirmed: check on a Mac first (NSPasteboardItem's -init and -setData:forType:
+                // are not in the fact sheet).
+                NSPasteboardItem* written = [[NSPasteboardItem alloc] init];
+                for (const auto& representation : item.representations) {
+                    [written setData:toNSData(representation.bytes)
+                             forType:text(representation.type)];
+                }
+                [objects addObject:written];
+            }
+            return [general() writeObjects:objects];
+        }
+    }
+};
+
+}  // namespace
+
+std::unique_ptr<Pasteboard> makeMacPasteboard() { return std::make_unique<MacPasteboard>(); }
 
 }  // namespace quorvane

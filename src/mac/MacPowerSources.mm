@@ -1,4 +1,4 @@
-#include "mac/MacPowerSources.hpp"
+#include "mac/MacPorts.hpp"
 
 #include <cassert>
 #include <memory>
@@ -37,51 +37,57 @@ void powerSourcesChanged(void* context) {
     }
 }
 
+// IOKit's power-source API.
+class MacPowerSources final : public PowerSources {
+public:
+    std::vector<PowerSourceDescription> powerSources() override {
+        std::vector<PowerSourceDescription> sources;
+        const auto info = CFRef<CFTypeRef>::adopt(IOPSCopyPowerSourcesInfo());
+        if (!info) {
+            return sources;
+        }
+        const auto list = CFRef<CFArrayRef>::adopt(IOPSCopyPowerSourcesList(info.get()));
+        if (!list) {
+            return sources;
+        }
+        for (CFIndex i = 0; i < CFArrayGetCount(list.get()); ++i) {
+            // A Get: the description belongs to the info blob, which outlives this loop.
+            const CFDictionaryRef found =
+                IOPSGetPowerSourceDescription(info.get(), CFArrayGetValueAtIndex(list.get(), i));
+            if (!found) {
+                continue;
+            }
+            NSDictionary* description = (__bridge NSDictionary*)found;
+            PowerSourceDescription source;
+            source.name = text(description, @kIOPSNameKey);
+            source.type = text(description, @kIOPSTypeKey);
+            source.powerSourceState = text(description, @kIOPSPowerSourceStateKey);
+            source.isPresent = boolean(description, @kIOPSIsPresentKey).value_or(false);
+            source.isCharging = boolean(description, @kIOPSIsChargingKey);
+            source.currentCapacity = integer(description, @kIOPSCurrentCapacityKey);
+            source.maxCapacity = integer(description, @kIOPSMaxCapacityKey);
+            sources.push_back(std::move(source));
+        }
+        return sources;
+    }
+
+    Subscription observeChanges(std::function<void()> handler) override {
+        auto context = std::make_shared<std::function<void()>>(std::move(handler));
+        auto source = CFRef<CFRunLoopSourceRef>::adopt(
+            IOPSNotificationCreateRunLoopSource(&powerSourcesChanged, context.get()));
+        if (!source) {
+            return {};
+        }
+        CFRunLoopAddSource(CFRunLoopGetMain(), source.get(), kCFRunLoopCommonModes);
+        // The source is removed before the handler it points to is released.
+        return Subscription([source, context] {
+            CFRunLoopRemoveSource(CFRunLoopGetMain(), source.get(), kCFRunLoopCommonModes);
+        });
+    }
+};
+
 }  // namespace
 
-std::vector<PowerSourceDescription> MacPowerSources::powerSources() {
-    std::vector<PowerSourceDescription> sources;
-    const auto info = CFRef<CFTypeRef>::adopt(IOPSCopyPowerSourcesInfo());
-    if (!info) {
-        return sources;
-    }
-    const auto list = CFRef<CFArrayRef>::adopt(IOPSCopyPowerSourcesList(info.get()));
-    if (!list) {
-        return sources;
-    }
-    for (CFIndex i = 0; i < CFArrayGetCount(list.get()); ++i) {
-        // A Get: the description belongs to the info blob, which outlives this loop.
-        const CFDictionaryRef found =
-            IOPSGetPowerSourceDescription(info.get(), CFArrayGetValueAtIndex(list.get(), i));
-        if (!found) {
-            continue;
-        }
-        NSDictionary* description = (__bridge NSDictionary*)found;
-        PowerSourceDescription source;
-        source.name = text(description, @kIOPSNameKey);
-        source.type = text(description, @kIOPSTypeKey);
-        source.powerSourceState = text(description, @kIOPSPowerSourceStateKey);
-        source.isPresent = boolean(description, @kIOPSIsPresentKey).value_or(false);
-        source.isCharging = boolean(description, @kIOPSIsChargingKey);
-        source.currentCapacity = integer(description, @kIOPSCurrentCapacityKey);
-        source.maxCapacity = integer(description, @kIOPSMaxCapacityKey);
-        sources.push_back(std::move(source));
-    }
-    return sources;
-}
-
-Subscription MacPowerSources::observeChanges(std::function<void()> handler) {
-    auto context = std::make_shared<std::function<void()>>(std::move(handler));
-    auto source = CFRef<CFRunLoopSourceRef>::adopt(
-        IOPSNotificationCreateRunLoopSource(&powerSourcesChanged, context.get()));
-    if (!source) {
-        return {};
-    }
-    CFRunLoopAddSource(CFRunLoopGetMain(), source.get(), kCFRunLoopCommonModes);
-    // The source is removed before the handler it points to is released.
-    return Subscription([source, context] {
-        CFRunLoopRemoveSource(CFRunLoopGetMain(), source.get(), kCFRunLoopCommonModes);
-    });
-}
+std::unique_ptr<PowerSources> makeMacPowerSources() { return std::make_unique<MacPowerSources>(); }
 
 }  // namespace quorvane

@@ -1,4 +1,4 @@
-#include "mac/MacPreferenceDomains.hpp"
+#include "mac/MacPorts.hpp"
 
 #include "mac/CFRef.hpp"
 #include "mac/MacFrameworks.h"
@@ -25,67 +25,74 @@ CFStringRef hostName(PreferenceHost host) {
     return host == PreferenceHost::current ? kCFPreferencesCurrentHost : kCFPreferencesAnyHost;
 }
 
+// Other programs' preference domains of the current user, through CFPreferences.
+class MacPreferenceDomains final : public PreferenceDomains {
+public:
+    bool synchronize(const std::string& applicationID, PreferenceHost host) override {
+        const auto domain = domainName(applicationID);
+        if (!domain) {
+            return false;
+        }
+        return CFPreferencesSynchronize(domain.get(), kCFPreferencesCurrentUser, hostName(host));
+    }
+
+    std::optional<PreferenceValue> copyValue(const std::string& key,
+                                             const std::string& applicationID,
+                                             PreferenceHost host) override {
+        const auto domain = domainName(applicationID);
+        const auto cfKey = makeCFString(key);
+        if (!domain || !cfKey) {
+            return std::nullopt;
+        }
+        const auto value = CFRef<CFPropertyListRef>::adopt(CFPreferencesCopyValue(
+            cfKey.get(), domain.get(), kCFPreferencesCurrentUser, hostName(host)));
+        if (!value) {
+            return std::nullopt;
+        }
+        return fromPropertyList(value.get());
+    }
+
+    void setValue(const std::string& key, const std::optional<PreferenceValue>& value,
+                  const std::string& applicationID, PreferenceHost host) override {
+        const auto domain = domainName(applicationID);
+        const auto cfKey = makeCFString(key);
+        CFRef<CFPropertyListRef> cfValue;
+        if (value) {
+            cfValue = toPropertyList(*value);
+        }
+        // NULL removes the key, so a value that cannot be expressed must not turn into a removal.
+        if (!domain || !cfKey || (value && !cfValue)) {
+            return;
+        }
+        CFPreferencesSetValue(cfKey.get(), cfValue.get(), domain.get(), kCFPreferencesCurrentUser,
+                              hostName(host));
+    }
+
+    std::vector<std::string> copyKeyList(const std::string& applicationID,
+                                         PreferenceHost host) override {
+        std::vector<std::string> keys;
+        const auto domain = domainName(applicationID);
+        if (!domain) {
+            return keys;
+        }
+        const auto list = CFRef<CFArrayRef>::adopt(
+            CFPreferencesCopyKeyList(domain.get(), kCFPreferencesCurrentUser, hostName(host)));
+        if (!list) {
+            return keys;
+        }
+        for (const void* key : arrayValues(list.get())) {
+            if (key != nullptr && CFGetTypeID(key) == CFStringGetTypeID()) {
+                keys.push_back(utf8String(static_cast<CFStringRef>(key)));
+            }
+        }
+        return keys;
+    }
+};
+
 }  // namespace
 
-bool MacPreferenceDomains::synchronize(const std::string& applicationID, PreferenceHost host) {
-    const auto domain = domainName(applicationID);
-    if (!domain) {
-        return false;
-    }
-    return CFPreferencesSynchronize(domain.get(), kCFPreferencesCurrentUser, hostName(host));
-}
-
-std::optional<PreferenceValue> MacPreferenceDomains::copyValue(const std::string& key,
-                                                               const std::string& applicationID,
-                                                               PreferenceHost host) {
-    const auto domain = domainName(applicationID);
-    const auto cfKey = makeCFString(key);
-    if (!domain || !cfKey) {
-        return std::nullopt;
-    }
-    const auto value = CFRef<CFPropertyListRef>::adopt(CFPreferencesCopyValue(
-        cfKey.get(), domain.get(), kCFPreferencesCurrentUser, hostName(host)));
-    if (!value) {
-        return std::nullopt;
-    }
-    return fromPropertyList(value.get());
-}
-
-void MacPreferenceDomains::setValue(const std::string& key,
-                                    const std::optional<PreferenceValue>& value,
-                                    const std::string& applicationID, PreferenceHost host) {
-    const auto domain = domainName(applicationID);
-    const auto cfKey = makeCFString(key);
-    CFRef<CFPropertyListRef> cfValue;
-    if (value) {
-        cfValue = toPropertyList(*value);
-    }
-    // NULL removes the key, so a value that cannot be expressed must not turn into a removal.
-    if (!domain || !cfKey || (value && !cfValue)) {
-        return;
-    }
-    CFPreferencesSetValue(cfKey.get(), cfValue.get(), domain.get(), kCFPreferencesCurrentUser,
-                          hostName(host));
-}
-
-std::vector<std::string> MacPreferenceDomains::copyKeyList(const std::string& applicationID,
-                                                           PreferenceHost host) {
-    std::vector<std::string> keys;
-    const auto domain = domainName(applicationID);
-    if (!domain) {
-        return keys;
-    }
-    const auto list = CFRef<CFArrayRef>::adopt(
-        CFPreferencesCopyKeyList(domain.get(), kCFPreferencesCurrentUser, hostName(host)));
-    if (!list) {
-        return keys;
-    }
-    for (const void* key : arrayValues(list.get())) {
-        if (key != nullptr && CFGetTypeID(key) == CFStringGetTypeID()) {
-            keys.push_back(utf8String(static_cast<CFStringRef>(key)));
-        }
-    }
-    return keys;
+std::unique_ptr<PreferenceDomains> makeMacPreferenceDomains() {
+    return std::make_unique<MacPreferenceDomains>();
 }
 
 }  // namespace quorvane

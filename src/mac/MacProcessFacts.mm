@@ -1,4 +1,4 @@
-#include "mac/MacProcessFacts.hpp"
+#include "mac/MacPorts.hpp"
 
 #include <cstdint>
 #include <cstring>
@@ -8,100 +8,110 @@
 
 namespace quorvane {
 
-std::optional<std::string> MacProcessFacts::executablePath(int pid) {
-    char buffer[PROC_PIDPATHINFO_MAXSIZE];
-    const int length = proc_pidpath(pid, buffer, static_cast<std::uint32_t>(sizeof buffer));
-    if (length <= 0) {
-        return std::nullopt;
-    }
-    return std::string(buffer, static_cast<std::size_t>(length));
-}
+namespace {
 
-std::string MacProcessFacts::processName(int pid) {
-    char buffer[256] = {};
-    // unconfirmed: check on a Mac first (proc_name's result is not in the fact sheet; libproc's
-    // source answers the name's length, and 0 when there is none).
-    if (proc_name(pid, buffer, static_cast<std::uint32_t>(sizeof buffer)) <= 0) {
-        return {};
-    }
-    return std::string(buffer, strnlen(buffer, sizeof buffer));
-}
-
-std::optional<std::string> MacProcessFacts::applicationPath(const std::string& bundleID) {
-    @autoreleasepool {
-        NSString* identifier = makeNSString(bundleID);
-        if (!identifier) {
+// libproc for processes; NSWorkspace, NSFileManager and NSBundle for applications.
+class MacProcessFacts final : public ProcessFacts {
+public:
+    std::optional<std::string> executablePath(int pid) override {
+        char buffer[PROC_PIDPATHINFO_MAXSIZE];
+        const int length = proc_pidpath(pid, buffer, static_cast<std::uint32_t>(sizeof buffer));
+        if (length <= 0) {
             return std::nullopt;
         }
-        NSURL* url =
-            [[NSWorkspace sharedWorkspace] URLForApplicationWithBundleIdentifier:identifier];
-        // unconfirmed: check on a Mac first (-[NSURL path] is not in the fact sheet).
-        NSString* path = url.path;
-        if (!path) {
-            return std::nullopt;
-        }
-        return utf8String(path);
+        return std::string(buffer, static_cast<std::size_t>(length));
     }
-}
 
-std::string MacProcessFacts::displayName(const std::string& path) {
-    @autoreleasepool {
-        NSString* text = makeNSString(path);
-        if (!text) {
-            return path;
+    std::string processName(int pid) override {
+        char buffer[256] = {};
+        // unconfirmed: check on a Mac first (proc_name's result is not in the fact sheet; libproc's
+        // source answers the name's length, and 0 when there is none).
+        if (proc_name(pid, buffer, static_cast<std::uint32_t>(sizeof buffer)) <= 0) {
+            return {};
         }
-        // unconfirmed: check on a Mac first (-[NSFileManager displayNameAtPath:] is not in the
-        // fact sheet; Apple's reference says it answers the path itself when nothing is there).
-        return utf8String([[NSFileManager defaultManager] displayNameAtPath:text]);
+        return std::string(buffer, strnlen(buffer, sizeof buffer));
     }
-}
 
-std::optional<std::string> MacProcessFacts::bundleIdentifier(const std::string& bundlePath) {
-    @autoreleasepool {
-        NSString* path = makeNSString(bundlePath);
-        // unconfirmed: check on a Mac first (+[NSBundle bundleWithPath:] and -bundleIdentifier
-        // are not in the fact sheet; both may give nil).
-        NSBundle* bundle = path ? [NSBundle bundleWithPath:path] : nil;
-        NSString* identifier = bundle.bundleIdentifier;
-        if (!identifier) {
-            return std::nullopt;
+    std::optional<std::string> applicationPath(const std::string& bundleID) override {
+        @autoreleasepool {
+            NSString* identifier = makeNSString(bundleID);
+            if (!identifier) {
+                return std::nullopt;
+            }
+            NSURL* url =
+                [[NSWorkspace sharedWorkspace] URLForApplicationWithBundleIdentifier:identifier];
+            // unconfirmed: check on a Mac first (-[NSURL path] is not in the fact sheet).
+            NSString* path = url.path;
+            if (!path) {
+                return std::nullopt;
+            }
+            return utf8String(path);
         }
-        return utf8String(identifier);
     }
-}
 
-std::optional<std::string> MacProcessFacts::infoString(const std::string& bundleURL,
-                                                       const std::string& key) {
-    @autoreleasepool {
-        NSString* text = makeNSString(bundleURL);
-        NSString* name = makeNSString(key);
-        if (!text || !name) {
-            return std::nullopt;
+    std::string displayName(const std::string& path) override {
+        @autoreleasepool {
+            NSString* text = makeNSString(path);
+            if (!text) {
+                return path;
+            }
+            // unconfirmed: check on a Mac first (-[NSFileManager displayNameAtPath:] is not in the
+            // fact sheet; Apple's reference says it answers the path itself when nothing is there).
+            return utf8String([[NSFileManager defaultManager] displayNameAtPath:text]);
         }
-        // unconfirmed: check on a Mac first (+[NSURL URLWithString:], +[NSBundle bundleWithURL:]
-        // and -objectForInfoDictionaryKey: are from Apple's reference, not the fact sheet; each
-        // may give nil, and the value may be of any property-list class).
-        NSURL* url = [NSURL URLWithString:text];
-        NSBundle* bundle = url ? [NSBundle bundleWithURL:url] : nil;
-        id value = [bundle objectForInfoDictionaryKey:name];
-        if (![value isKindOfClass:[NSString class]]) {
-            return std::nullopt;
-        }
-        return utf8String(static_cast<NSString*>(value));
     }
-}
 
-int MacProcessFacts::compareNames(const std::string& a, const std::string& b) {
-    @autoreleasepool {
-        NSString* first = makeNSString(a);
-        NSString* second = makeNSString(b);
-        if (!first || !second) {
-            return a.compare(b);
+    std::optional<std::string> bundleIdentifier(const std::string& bundlePath) override {
+        @autoreleasepool {
+            NSString* path = makeNSString(bundlePath);
+            // unconfirmed: check on a Mac first (+[NSBundle bundleWithPath:] and -bundleIdentifier
+            // are not in the fact sheet; both may give nil).
+            NSBundle* bundle = path ? [NSBundle bundleWithPath:path] : nil;
+            NSString* identifier = bundle.bundleIdentifier;
+            if (!identifier) {
+                return std::nullopt;
+            }
+            return utf8String(identifier);
         }
-        // unconfirmed: check on a Mac first (-[NSString localizedCaseInsensitiveCompare:] is not
-        // in the fact sheet).
-        return static_cast<int>([first localizedCaseInsensitiveCompare:second]);
     }
-}
+
+    std::optional<std::string> infoString(const std::string& bundleURL,
+                                          const std::string& key) override {
+        @autoreleasepool {
+            NSString* text = makeNSString(bundleURL);
+            NSString* name = makeNSString(key);
+            if (!text || !name) {
+                return std::nullopt;
+            }
+            // unconfirmed: check on a Mac first (+[NSURL URLWithString:], +[NSBundle
+            // bundleWithURL:] and -objectForInfoDictionaryKey: are from Apple's reference, not the
+            // fact sheet; each may give nil, and the value may be of any property-list class).
+            NSURL* url = [NSURL URLWithString:text];
+            NSBundle* bundle = url ? [NSBundle bundleWithURL:url] : nil;
+            id value = [bundle objectForInfoDictionaryKey:name];
+            if (![value isKindOfClass:[NSString class]]) {
+                return std::nullopt;
+            }
+            return utf8String(static_cast<NSString*>(value));
+        }
+    }
+
+    int compareNames(const std::string& a, const std::string& b) override {
+        @autoreleasepool {
+            NSString* first = makeNSString(a);
+            NSString* second = makeNSString(b);
+            if (!first || !second) {
+                return a.compare(b);
+            }
+            // unconfirmed: check on a Mac first (-[NSString localizedCaseInsensitiveCompare:] is
+            // not in the fact sheet).
+            return static_cast<int>([first localizedCaseInsensitiveCompare:second]);
+        }
+    }
+};
+
+}  // namespace
+
+std::unique_ptr<ProcessFacts> makeMacProcessFacts() { return std::make_unique<MacProcessFacts>(); }
 
 }  // namespace quorvane

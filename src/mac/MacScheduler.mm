@@ -1,5 +1,6 @@
-#include "mac/MacScheduler.hpp"
+#include "mac/MacPorts.hpp"
 
+#include <functional>
 #include <time.h>
 
 #include <cassert>
@@ -37,46 +38,53 @@ Timer scheduleTimer(Seconds interval, bool repeats, std::function<void()> action
     });
 }
 
+// Time and the main run loop. Timers run in the run loop's common modes, so they keep firing
+// while a menu is tracked or a window is live-resized. Main thread only.
+class MacScheduler final : public Scheduler {
+public:
+    // CLOCK_UPTIME_RAW rather than std::chrono::steady_clock. It is mach_absolute_time in
+    // nanoseconds and stands still while the Mac sleeps, as an NSTimer's countdown does; Apple's
+    // steady_clock keeps counting through sleep (libc++ reads CLOCK_MONOTONIC_RAW there). With the
+    // uptime clock, a deadline measured with now() and a timer of the same length agree after a
+    // wake, instead of the deadline having passed while the timer still waits.
+    // unconfirmed: check on a Mac first (clock_gettime_nsec_np is not in the fact sheet; the sleep
+    // behaviour of NSTimer and of libc++'s steady_clock comes from third-party write-ups).
+    Seconds now() const override {
+        const std::uint64_t nanoseconds = clock_gettime_nsec_np(CLOCK_UPTIME_RAW);
+        return std::chrono::nanoseconds(static_cast<std::int64_t>(nanoseconds));
+    }
+
+    double date() const override {
+        // unconfirmed: check on a Mac first (CFAbsoluteTimeGetCurrent is not in the fact sheet).
+        // It counts seconds since 2001-01-01 00:00:00 UTC, as the port promises.
+        return CFAbsoluteTimeGetCurrent();
+    }
+
+    [[nodiscard]] Timer after(Seconds delay, std::function<void()> action) override {
+        return scheduleTimer(delay, false, std::move(action));
+    }
+
+    [[nodiscard]] Timer every(Seconds interval, std::function<void()> action) override {
+        return scheduleTimer(interval, true, std::move(action));
+    }
+
+    [[nodiscard]] Timer post(std::function<void()> action) override {
+        auto callback = std::make_shared<Callback>(std::move(action));
+        CFRunLoopRef mainLoop = CFRunLoopGetMain();
+        // unconfirmed: check on a Mac first (CFRunLoopPerformBlock and CFRunLoopWakeUp are not in
+        // the fact sheet). Common modes, so a post made during menu tracking still runs there.
+        CFRunLoopPerformBlock(mainLoop, kCFRunLoopCommonModes, ^{
+          assert([NSThread isMainThread]);
+          Callback::run(callback);
+        });
+        // Queuing a block does not wake a sleeping run loop by itself.
+        CFRunLoopWakeUp(mainLoop);
+        return Timer([callback] { callback->cancelled = true; });
+    }
+};
+
 }  // namespace
 
-// CLOCK_UPTIME_RAW rather than std::chrono::steady_clock. It is mach_absolute_time in
-// nanoseconds and stands still while the Mac sleeps, as an NSTimer's countdown does; Apple's
-// steady_clock keeps counting through sleep (libc++ reads CLOCK_MONOTONIC_RAW there). With the
-// uptime clock, a deadline measured with now() and a timer of the same length agree after a
-// wake, instead of the deadline having passed while the timer still waits.
-// unconfirmed: check on a Mac first (clock_gettime_nsec_np is not in the fact sheet; the sleep
-// behaviour of NSTimer and of libc++'s steady_clock comes from third-party write-ups).
-Seconds MacScheduler::now() const {
-    const std::uint64_t nanoseconds = clock_gettime_nsec_np(CLOCK_UPTIME_RAW);
-    return std::chrono::nanoseconds(static_cast<std::int64_t>(nanoseconds));
-}
-
-double MacScheduler::date() const {
-    // unconfirmed: check on a Mac first (CFAbsoluteTimeGetCurrent is not in the fact sheet).
-    // It counts seconds since 2001-01-01 00:00:00 UTC, as the port promises.
-    return CFAbsoluteTimeGetCurrent();
-}
-
-Timer MacScheduler::after(Seconds delay, std::function<void()> action) {
-    return scheduleTimer(delay, false, std::move(action));
-}
-
-Timer MacScheduler::every(Seconds interval, std::function<void()> action) {
-    return scheduleTimer(interval, true, std::move(action));
-}
-
-Timer MacScheduler::post(std::function<void()> action) {
-    auto callback = std::make_shared<Callback>(std::move(action));
-    CFRunLoopRef mainLoop = CFRunLoopGetMain();
-    // unconfirmed: check on a Mac first (CFRunLoopPerformBlock and CFRunLoopWakeUp are not in
-    // the fact sheet). Common modes, so a post made during menu tracking still runs there.
-    CFRunLoopPerformBlock(mainLoop, kCFRunLoopCommonModes, ^{
-      assert([NSThread isMainThread]);
-      Callback::run(callback);
-    });
-    // Queuing a block does not wake a sleeping run loop by itself.
-    CFRunLoopWakeUp(mainLoop);
-    return Timer([callback] { callback->cancelled = true; });
-}
+std::unique_ptr<Scheduler> makeMacScheduler() { return std::make_unique<MacScheduler>(); }
 
 }  // namespace quorvane

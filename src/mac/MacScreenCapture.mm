@@ -1,7 +1,8 @@
-#include "mac/MacScreenCapture.hpp"
+#include "mac/MacPorts.hpp"
 
 #include <memory>
 
+#include "input/KeyCombo.hpp"
 #include "mac/CFRef.hpp"
 #include "mac/CancellableHandler.hpp"
 #include "mac/MacFrameworks.h"
@@ -268,8 +269,8 @@ __attribute__((availability(macos, introduced = 15.0)))
 
 - (void)mouseDragged:(NSEvent*)event {
     const NSPoint now = [self convertPoint:event.locationInWindow fromView:nil];
-    _selection = NSMakeRect(std::min(_start.x, now.x), std::min(_start.y, now.y),
-                            std::abs(now.x - _start.x), std::abs(now.y - _start.y));
+    _selection =
+        cgRect(Rect(_start.x, _start.y, now.x - _start.x, now.y - _start.y).standardized());
     [self setNeedsDisplay:YES];
 }
 
@@ -285,7 +286,7 @@ __attribute__((availability(macos, introduced = 15.0)))
 }
 
 - (void)keyDown:(NSEvent*)event {
-    if (event.keyCode == 53) {  // Esc
+    if (event.keyCode == quorvane::KeyCombo::kEscapeKeyCode) {
         self.finished(NSZeroRect, NO);
     }
 }
@@ -322,161 +323,174 @@ private:
     id<QVStoppable> session_;
 };
 
-}  // namespace
+// Screen capture through ScreenCaptureKit; recordings through its recording output.
+class MacScreenCapture final : public ScreenCapture {
+public:
+    Subscription shareableContent(ContentHandler handler) override {
+        auto shared = std::make_shared<CancellableHandler<ContentHandler>>(std::move(handler));
+        [SCShareableContent
+            getShareableContentExcludingDesktopWindows:YES
+                                   onScreenWindowsOnly:YES
+                                     completionHandler:^(SCShareableContent* content,
+                                                         NSError* error) {
+                                       std::optional<Content> listed;
+                                       if (content != nil) {
+                                           listed = convert(content);
+                                       }
+                                       const std::string failure =
+                                           content != nil ? std::string() : describe(error);
+                                       dispatch_async(dispatch_get_main_queue(), ^{
+                                         if (!shared->cancelled) {
+                                             shared->handler(listed, failure);
+                                         }
+                                       });
+                                     }];
+        return Subscription([shared] { shared->cancelled = true; });
+    }
 
-Subscription MacScreenCapture::shareableContent(ContentHandler handler) {
-    auto shared = std::make_shared<CancellableHandler<ContentHandler>>(std::move(handler));
-    [SCShareableContent
-        getShareableContentExcludingDesktopWindows:YES
-                               onScreenWindowsOnly:YES
-                                 completionHandler:^(SCShareableContent* content, NSError* error) {
-                                   std::optional<Content> listed;
-                                   if (content != nil) {
-                                       listed = convert(content);
-                                   }
-                                   const std::string failure =
-                                       content != nil ? std::string() : describe(error);
-                                   dispatch_async(dispatch_get_main_queue(), ^{
-                                     if (!shared->cancelled) {
-                                         shared->handler(listed, failure);
-                                     }
-                                   });
-                                 }];
-    return Subscription([shared] { shared->cancelled = true; });
-}
+    Subscription captureImage(const Target& target, int pixelWidth, int pixelHeight,
+                              ImageHandler handler) override {
+        auto shared = std::make_shared<CancellableHandler<ImageHandler>>(std::move(handler));
+        const Target wanted = target;
+        const auto deliver = ^(std::optional<Thumbnail> image, std::string failure) {
+          dispatch_async(dispatch_get_main_queue(), ^{
+            if (!shared->cancelled) {
+                shared->handler(image, failure);
+            }
+          });
+        };
+        [SCShareableContent
+            getShareableContentExcludingDesktopWindows:NO
+                                   onScreenWindowsOnly:NO
+                                     completionHandler:^(SCShareableContent* content,
+                                                         NSError* error) {
+                                       SCContentFilter* filter =
+                                           content != nil ? makeFilter(content, wanted) : nil;
+                                       if (filter == nil) {
+                                           deliver(std::nullopt,
+                                                   content != nil ? "the display or window is gone"
+                                                                  : describe(error));
+                                           return;
+                                       }
+                                       [SCScreenshotManager
+                                           captureImageWithFilter:filter
+                                                    configuration:makeConfiguration(wanted,
+                                                                                    pixelWidth,
+                                                                                    pixelHeight)
+                                                completionHandler:^(CGImageRef image,
+                                                                    NSError* failure) {
+                                                  if (image == nullptr) {
+                                                      deliver(std::nullopt, describe(failure));
+                                                      return;
+                                                  }
+                                                  // The handler's reference lasts only as long
+                                                  // as the call; the thumbnail keeps its own.
+                                                  CFRetain(image);
+                                                  Thumbnail thumbnail;
+                                                  thumbnail.width =
+                                                      static_cast<int>(CGImageGetWidth(image));
+                                                  thumbnail.height =
+                                                      static_cast<int>(CGImageGetHeight(image));
+                                                  thumbnail.image = std::shared_ptr<const void>(
+                                                      image, [](const void* held) {
+                                                          CFRelease(static_cast<CFTypeRef>(held));
+                                                      });
+                                                  deliver(thumbnail, {});
+                                                }];
+                                     }];
+        return Subscription([shared] { shared->cancelled = true; });
+    }
 
-Subscription MacScreenCapture::captureImage(const Target& target, int pixelWidth, int pixelHeight,
-                                            ImageHandler handler) {
-    auto shared = std::make_shared<CancellableHandler<ImageHandler>>(std::move(handler));
-    const Target wanted = target;
-    const auto deliver = ^(std::optional<Thumbnail> image, std::string failure) {
-      dispatch_async(dispatch_get_main_queue(), ^{
-        if (!shared->cancelled) {
-            shared->handler(image, failure);
+    std::unique_ptr<ScreenCapture::Recording> startRecording(const RecordingRequest& request,
+                                                             FinishHandler finished,
+                                                             std::string& error) override {
+        if (@available(macOS 15.0, *)) {
+            auto shared = std::make_shared<CancellableHandler<FinishHandler>>(std::move(finished));
+            QVRecordingSession* session = [[QVRecordingSession alloc] initWithHandler:shared];
+            [session start:request];
+            return std::make_unique<MacRecording>(session);
         }
-      });
-    };
-    [SCShareableContent
-        getShareableContentExcludingDesktopWindows:NO
-                               onScreenWindowsOnly:NO
-                                 completionHandler:^(SCShareableContent* content, NSError* error) {
-                                   SCContentFilter* filter =
-                                       content != nil ? makeFilter(content, wanted) : nil;
-                                   if (filter == nil) {
-                                       deliver(std::nullopt, content != nil
-                                                                 ? "the display or window is gone"
-                                                                 : describe(error));
-                                       return;
-                                   }
-                                   [SCScreenshotManager
-                                       captureImageWithFilter:filter
-                                                configuration:makeConfiguration(wanted, pixelWidth,
-                                                                                pixelHeight)
-                                            completionHandler:^(CGImageRef image,
-                                                                NSError* failure) {
-                                              if (image == nullptr) {
-                                                  deliver(std::nullopt, describe(failure));
-                                                  return;
-                                              }
-                                              // The handler's reference lasts only as long
-                                              // as the call; the thumbnail keeps its own.
-                                              CFRetain(image);
-                                              Thumbnail thumbnail;
-                                              thumbnail.width =
-                                                  static_cast<int>(CGImageGetWidth(image));
-                                              thumbnail.height =
-                                                  static_cast<int>(CGImageGetHeight(image));
-                                              thumbnail.image = std::shared_ptr<const void>(
-                                                  image, [](const void* held) {
-                                                      CFRelease(static_cast<CFTypeRef>(held));
-                                                  });
-                                              deliver(thumbnail, {});
-                                            }];
-                                 }];
-    return Subscription([shared] { shared->cancelled = true; });
-}
-
-std::unique_ptr<ScreenCapture::Recording> MacScreenCapture::startRecording(
-    const RecordingRequest& request, FinishHandler finished, std::string& error) {
-    if (@available(macOS 15.0, *)) {
-        auto shared = std::make_shared<CancellableHandler<FinishHandler>>(std::move(finished));
-        QVRecordingSession* session = [[QVRecordingSession alloc] initWithHandler:shared];
-        [session start:request];
-        return std::make_unique<MacRecording>(session);
+        error = "recording needs macOS 15 or later";
+        return nullptr;
     }
-    error = "recording needs macOS 15 or later";
-    return nullptr;
-}
 
-bool MacScreenCapture::writePNG(const Thumbnail& image, const std::string& path) {
-    if (!image.image) {
-        return false;
-    }
-    @autoreleasepool {
-        NSURL* url = [NSURL fileURLWithPath:text(path)];
-        const auto destination =
-            CFRef<CGImageDestinationRef>::adopt(CGImageDestinationCreateWithURL(
-                (__bridge CFURLRef)url, CFSTR("public.png"), 1, nullptr));
-        if (!destination) {
+    bool writePNG(const Thumbnail& image, const std::string& path) override {
+        if (!image.image) {
             return false;
         }
-        CGImageDestinationAddImage(destination.get(),
-                                   static_cast<CGImageRef>(const_cast<void*>(image.image.get())),
-                                   nullptr);
-        return CGImageDestinationFinalize(destination.get());
+        @autoreleasepool {
+            NSURL* url = [NSURL fileURLWithPath:text(path)];
+            const auto destination =
+                CFRef<CGImageDestinationRef>::adopt(CGImageDestinationCreateWithURL(
+                    (__bridge CFURLRef)url, CFSTR("public.png"), 1, nullptr));
+            if (!destination) {
+                return false;
+            }
+            CGImageDestinationAddImage(
+                destination.get(), static_cast<CGImageRef>(const_cast<void*>(image.image.get())),
+                nullptr);
+            return CGImageDestinationFinalize(destination.get());
+        }
     }
-}
 
-Subscription MacScreenCapture::selectArea(AreaHandler handler) {
-    auto shared = std::make_shared<CancellableHandler<AreaHandler>>(std::move(handler));
-    NSMutableArray<NSWindow*>* windows = [NSMutableArray array];
-    NSScreen* primary = NSScreen.screens.firstObject;
-    const CGFloat primaryHeight = primary.frame.size.height;
-    __block BOOL done = NO;
-    void (^finish)(NSRect, BOOL) = ^(NSRect screenRect, BOOL chosen) {
-      if (done) {
-          return;
-      }
-      done = YES;
-      for (NSWindow* window in windows) {
-          [window orderOut:nil];
-      }
-      [windows removeAllObjects];
-      if (shared->cancelled) {
-          return;
-      }
-      if (!chosen) {
-          shared->handler(std::nullopt);
-          return;
-      }
-      // Screen coordinates grow upward from the main display's bottom; accessibility ones
-      // downward from its top.
-      shared->handler(Rect(screenRect.origin.x,
-                           primaryHeight - screenRect.origin.y - screenRect.size.height,
-                           screenRect.size.width, screenRect.size.height));
-    };
-    for (NSScreen* screen in NSScreen.screens) {
-        QVAreaWindow* window = [[QVAreaWindow alloc] initWithContentRect:screen.frame
-                                                               styleMask:NSWindowStyleMaskBorderless
-                                                                 backing:NSBackingStoreBuffered
-                                                                   defer:NO];
-        window.opaque = NO;
-        window.backgroundColor = [NSColor clearColor];
-        window.level = NSScreenSaverWindowLevel;
-        window.releasedWhenClosed = NO;
-        QVAreaView* view = [[QVAreaView alloc]
-            initWithFrame:NSMakeRect(0, 0, screen.frame.size.width, screen.frame.size.height)];
-        view.finished = finish;
-        window.contentView = view;
-        [windows addObject:window];
-        [window makeKeyAndOrderFront:nil];
+    Subscription selectArea(AreaHandler handler) override {
+        auto shared = std::make_shared<CancellableHandler<AreaHandler>>(std::move(handler));
+        NSMutableArray<NSWindow*>* windows = [NSMutableArray array];
+        NSScreen* primary = NSScreen.screens.firstObject;
+        const CGFloat primaryHeight = primary.frame.size.height;
+        __block BOOL done = NO;
+        void (^finish)(NSRect, BOOL) = ^(NSRect screenRect, BOOL chosen) {
+          if (done) {
+              return;
+          }
+          done = YES;
+          for (NSWindow* window in windows) {
+              [window orderOut:nil];
+          }
+          [windows removeAllObjects];
+          if (shared->cancelled) {
+              return;
+          }
+          if (!chosen) {
+              shared->handler(std::nullopt);
+              return;
+          }
+          // Screen coordinates grow upward from the main display's bottom; accessibility ones
+          // downward from its top.
+          shared->handler(Rect(screenRect.origin.x,
+                               primaryHeight - screenRect.origin.y - screenRect.size.height,
+                               screenRect.size.width, screenRect.size.height));
+        };
+        for (NSScreen* screen in NSScreen.screens) {
+            QVAreaWindow* window =
+                [[QVAreaWindow alloc] initWithContentRect:screen.frame
+                                                styleMask:NSWindowStyleMaskBorderless
+                                                  backing:NSBackingStoreBuffered
+                                                    defer:NO];
+            window.opaque = NO;
+            window.backgroundColor = [NSColor clearColor];
+            window.level = NSScreenSaverWindowLevel;
+            window.releasedWhenClosed = NO;
+            QVAreaView* view = [[QVAreaView alloc]
+                initWithFrame:NSMakeRect(0, 0, screen.frame.size.width, screen.frame.size.height)];
+            view.finished = finish;
+            window.contentView = view;
+            [windows addObject:window];
+            [window makeKeyAndOrderFront:nil];
+        }
+        [NSApp activate];
+        // Turning the tool off while the crosshair is up takes the crosshair away too.
+        return Subscription([shared, finish] {
+            shared->cancelled = true;
+            finish(NSZeroRect, NO);
+        });
     }
-    [NSApp activate];
-    // Turning the tool off while the crosshair is up takes the crosshair away too.
-    return Subscription([shared, finish] {
-        shared->cancelled = true;
-        finish(NSZeroRect, NO);
-    });
+};
+
+}  // namespace
+
+std::unique_ptr<ScreenCapture> makeMacScreenCapture() {
+    return std::make_unique<MacScreenCapture>();
 }
 
 }  // namespace quorvane

@@ -2,7 +2,7 @@
 #error "Compile with -fobjc-arc"
 #endif
 
-#include "mac/MacSystemLog.hpp"
+#include "mac/MacPorts.hpp"
 
 #include "mac/MacFrameworks.h"
 
@@ -12,9 +12,19 @@
 
 namespace quorvane {
 
-void MacSystemLog::error(const std::string& text) {
-    static os_log_t log = os_log_create("com.quorvane.app", "tools");
-    os_log_error(log, "%{public}s", text.c_str());
-}
+namespace {
+
+// The unified log, under Quorvane's own subsystem.
+class MacSystemLog final : public SystemLog {
+public:
+    void error(const std::string& text) override {
+        static os_log_t log = os_log_create("com.quorvane.app", "tools");
+        os_log_error(log, "%{public}s", text.c_str());
+    }
+};
+
+}  // namespace
+
+std::unique_ptr<SystemLog> makeMacSystemLog() { return std::make_unique<MacSystemLog>(); }
 
 }  // namespace quorvane

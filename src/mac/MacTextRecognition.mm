@@ -1,4 +1,4 @@
-#include "mac/MacTextRecognition.hpp"
+#include "mac/MacPorts.hpp"
 
 #include <memory>
 #include <vector>
@@ -43,29 +43,37 @@ void readText(CGImageRef image, bool accurate, bool languageCorrection,
     }
 }
 
+// Text recognition through Vision, performed on a background queue.
+class MacTextRecognition final : public TextRecognition {
+public:
+    Subscription recognize(const Thumbnail& image, bool accurate, bool languageCorrection,
+                           Handler handler) override {
+        auto shared = std::make_shared<CancellableHandler<Handler>>(std::move(handler));
+        // The shared pointer keeps the picture alive on the other queue.
+        const std::shared_ptr<const void> picture = image.image;
+        // 0 is the default-priority global queue.
+        dispatch_async(dispatch_get_global_queue(0, 0), ^{
+          std::vector<Observation> found;
+          std::string failure = "there is no picture";
+          if (picture) {
+              failure.clear();
+              readText(static_cast<CGImageRef>(const_cast<void*>(picture.get())), accurate,
+                       languageCorrection, found, failure);
+          }
+          dispatch_async(dispatch_get_main_queue(), ^{
+            if (!shared->cancelled) {
+                shared->handler(found, failure);
+            }
+          });
+        });
+        return Subscription([shared] { shared->cancelled = true; });
+    }
+};
+
 }  // namespace
 
-Subscription MacTextRecognition::recognize(const Thumbnail& image, bool accurate,
-                                           bool languageCorrection, Handler handler) {
-    auto shared = std::make_shared<CancellableHandler<Handler>>(std::move(handler));
-    // The shared pointer keeps the picture alive on the other queue.
-    const std::shared_ptr<const void> picture = image.image;
-    // 0 is the default-priority global queue.
-    dispatch_async(dispatch_get_global_queue(0, 0), ^{
-      std::vector<Observation> found;
-      std::string failure = "there is no picture";
-      if (picture) {
-          failure.clear();
-          readText(static_cast<CGImageRef>(const_cast<void*>(picture.get())), accurate,
-                   languageCorrection, found, failure);
-      }
-      dispatch_async(dispatch_get_main_queue(), ^{
-        if (!shared->cancelled) {
-            shared->handler(found, failure);
-        }
-      });
-    });
-    return Subscription([shared] { shared->cancelled = true; });
+std::unique_ptr<TextRecognition> makeMacTextRecognition() {
+    return std::make_unique<MacTextRecognition>();
 }
 
 }  // namespace quorvane

@@ -1,4 +1,4 @@
-#include "mac/MacUserCalendar.hpp"
+#include "mac/MacPorts.hpp"
 
 #include <memory>
 #include <utility>
@@ -35,56 +35,63 @@ NSDateFormatter* currentFormatter() {
     return formatter;
 }
 
+// NSCalendar's current calendar, read anew on every call so a change of region or time zone
+// counts at once; NSDateFormatter for the names. Main thread only.
+class MacUserCalendar final : public UserCalendar {
+public:
+    int firstWeekday() override {
+        NSCalendar* calendar = [NSCalendar currentCalendar];
+        return static_cast<int>(calendar.firstWeekday);
+    }
+
+    UserCalendar::Components components(double date) override {
+        NSCalendar* calendar = [NSCalendar currentCalendar];
+        NSDateComponents* parts =
+            [calendar components:NSCalendarUnitYear | NSCalendarUnitMonth | NSCalendarUnitDay
+                        fromDate:[NSDate dateWithTimeIntervalSinceReferenceDate:date]];
+        return {static_cast<int>(parts.year), static_cast<int>(parts.month),
+                static_cast<int>(parts.day)};
+    }
+
+    double startOfDay(const Components& day) override {
+        NSDateComponents* parts = [[NSDateComponents alloc] init];
+        parts.year = day.year;
+        parts.month = day.month;
+        parts.day = day.day;
+        // Hours, minutes and seconds left unset are zero: the day's first moment (in the rare
+        // zones whose clocks skip midnight, the calendar moves it to the first that exists).
+        NSCalendar* calendar = [NSCalendar currentCalendar];
+        NSDate* start = [calendar dateFromComponents:parts];
+        return start ? start.timeIntervalSinceReferenceDate : 0;
+    }
+
+    std::vector<std::string> monthSymbols() override {
+        return strings(currentFormatter().standaloneMonthSymbols);
+    }
+
+    std::vector<std::string> weekdaySymbols() override {
+        return strings(currentFormatter().shortStandaloneWeekdaySymbols);
+    }
+
+    Subscription observeChanges(std::function<void()> handler) override {
+        auto shared = std::make_shared<std::function<void()>>(std::move(handler));
+        NSNotificationCenter* center = [NSNotificationCenter defaultCenter];
+        const auto call = [shared](NSNotification*) { (*shared)(); };
+        auto day = observeOnMainQueue(center, NSCalendarDayChangedNotification, nil, call);
+        auto zone = observeOnMainQueue(center, NSSystemTimeZoneDidChangeNotification, nil, call);
+        auto region = observeOnMainQueue(center, NSCurrentLocaleDidChangeNotification, nil, call);
+        auto clock = observeOnMainQueue(center, NSSystemClockDidChangeNotification, nil, call);
+        auto all = std::make_shared<std::vector<Subscription>>();
+        all->push_back(std::move(day));
+        all->push_back(std::move(zone));
+        all->push_back(std::move(region));
+        all->push_back(std::move(clock));
+        return Subscription([all] { all->clear(); });
+    }
+};
+
 }  // namespace
 
-int MacUserCalendar::firstWeekday() {
-    NSCalendar* calendar = [NSCalendar currentCalendar];
-    return static_cast<int>(calendar.firstWeekday);
-}
-
-UserCalendar::Components MacUserCalendar::components(double date) {
-    NSCalendar* calendar = [NSCalendar currentCalendar];
-    NSDateComponents* parts =
-        [calendar components:NSCalendarUnitYear | NSCalendarUnitMonth | NSCalendarUnitDay
-                    fromDate:[NSDate dateWithTimeIntervalSinceReferenceDate:date]];
-    return {static_cast<int>(parts.year), static_cast<int>(parts.month),
-            static_cast<int>(parts.day)};
-}
-
-double MacUserCalendar::startOfDay(const Components& day) {
-    NSDateComponents* parts = [[NSDateComponents alloc] init];
-    parts.year = day.year;
-    parts.month = day.month;
-    parts.day = day.day;
-    // Hours, minutes and seconds left unset are zero: the day's first moment (in the rare
-    // zones whose clocks skip midnight, the calendar moves it to the first that exists).
-    NSCalendar* calendar = [NSCalendar currentCalendar];
-    NSDate* start = [calendar dateFromComponents:parts];
-    return start ? start.timeIntervalSinceReferenceDate : 0;
-}
-
-std::vector<std::string> MacUserCalendar::monthSymbols() {
-    return strings(currentFormatter().standaloneMonthSymbols);
-}
-
-std::vector<std::string> MacUserCalendar::weekdaySymbols() {
-    return strings(currentFormatter().shortStandaloneWeekdaySymbols);
-}
-
-Subscription MacUserCalendar::observeChanges(std::function<void()> handler) {
-    auto shared = std::make_shared<std::function<void()>>(std::move(handler));
-    NSNotificationCenter* center = [NSNotificationCenter defaultCenter];
-    const auto call = [shared](NSNotification*) { (*shared)(); };
-    auto day = observeOnMainQueue(center, NSCalendarDayChangedNotification, nil, call);
-    auto zone = observeOnMainQueue(center, NSSystemTimeZoneDidChangeNotification, nil, call);
-    auto region = observeOnMainQueue(center, NSCurrentLocaleDidChangeNotification, nil, call);
-    auto clock = observeOnMainQueue(center, NSSystemClockDidChangeNotification, nil, call);
-    auto all = std::make_shared<std::vector<Subscription>>();
-    all->push_back(std::move(day));
-    all->push_back(std::move(zone));
-    all->push_back(std::move(region));
-    all->push_back(std::move(clock));
-    return Subscription([all] { all->clear(); });
-}
+std::unique_ptr<UserCalendar> makeMacUserCalendar() { return std::make_unique<MacUserCalendar>(); }
 
 }  // namespace quorvane

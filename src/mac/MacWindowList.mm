@@ -1,27 +1,8 @@
-#include "mac/MacWindowList.hpp"
+#include "mac/MacPorts.hpp"
 
 #include "mac/MacFrameworks.h"
 
 namespace quorvane {
-
-std::vector<int> MacWindowList::onScreenWindowOwners() {
-    @autoreleasepool {
-        std::vector<int> owners;
-        // A Copy, handed to ARC. NULL outside a GUI session, which ARC turns into nil.
-        NSArray* windows = (__bridge_transfer NSArray*)CGWindowListCopyWindowInfo(
-            kCGWindowListOptionOnScreenOnly | kCGWindowListExcludeDesktopElements, kCGNullWindowID);
-        for (NSDictionary* info in windows) {
-            // unconfirmed: check on a Mac first (-[NSNumber intValue] and -isKindOfClass: are not
-            // in the fact sheet; the owner key holds a CFNumber of a 32-bit signed integer).
-            id owner = info[(__bridge id)kCGWindowOwnerPID];
-            if ([owner isKindOfClass:[NSNumber class]]) {
-                NSNumber* number = owner;
-                owners.push_back(number.intValue);
-            }
-        }
-        return owners;
-    }
-}
 
 namespace {
 
@@ -35,36 +16,65 @@ NSNumber* numberIn(NSDictionary* info, CFStringRef key) {
     return number;
 }
 
+// The window server's on-screen windows through CGWindowListCopyWindowInfo.
+class MacWindowList final : public WindowList {
+public:
+    std::vector<int> onScreenWindowOwners() override {
+        @autoreleasepool {
+            std::vector<int> owners;
+            // A Copy, handed to ARC. NULL outside a GUI session, which ARC turns into nil.
+            NSArray* windows = (__bridge_transfer NSArray*)CGWindowListCopyWindowInfo(
+                kCGWindowListOptionOnScreenOnly | kCGWindowListExcludeDesktopElements,
+                kCGNullWindowID);
+            for (NSDictionary* info in windows) {
+                // unconfirmed: check on a Mac first (-[NSNumber intValue] and -isKindOfClass: are
+                // not in the fact sheet; the owner key holds a CFNumber of a 32-bit signed
+                // integer).
+                id owner = info[(__bridge id)kCGWindowOwnerPID];
+                if ([owner isKindOfClass:[NSNumber class]]) {
+                    NSNumber* number = owner;
+                    owners.push_back(number.intValue);
+                }
+            }
+            return owners;
+        }
+    }
+
+    std::vector<WindowInfo> onScreenWindows() override {
+        @autoreleasepool {
+            std::vector<WindowInfo> result;
+            NSArray* windows = (__bridge_transfer NSArray*)CGWindowListCopyWindowInfo(
+                kCGWindowListOptionOnScreenOnly | kCGWindowListExcludeDesktopElements,
+                kCGNullWindowID);
+            for (NSDictionary* info in windows) {
+                NSNumber* number = numberIn(info, kCGWindowNumber);
+                NSNumber* owner = numberIn(info, kCGWindowOwnerPID);
+                NSNumber* layer = numberIn(info, kCGWindowLayer);
+                id bounds = info[(__bridge id)kCGWindowBounds];
+                CGRect rect = CGRectZero;
+                // kCGWindowBounds is a dictionary form of a CGRect in the global, top-left-origin
+                // space, the same as accessibility frames.
+                if (!number || !owner || !layer || ![bounds isKindOfClass:[NSDictionary class]] ||
+                    !CGRectMakeWithDictionaryRepresentation((__bridge CFDictionaryRef)bounds,
+                                                            &rect)) {
+                    continue;
+                }
+                result.push_back(
+                    {number.unsignedIntValue, owner.intValue, layer.intValue,
+                     Rect(rect.origin.x, rect.origin.y, rect.size.width, rect.size.height)});
+            }
+            return result;
+        }
+    }
+
+    // No public interface sets the level of another process's window: a window's level belongs to
+    // its owner (-[NSWindow setLevel:] acts on this app's windows only). Refusing here keeps the
+    // pin tool honest until a supported way exists.
+    bool keepAbove(std::uint32_t /*windowNumber*/, bool /*on*/) override { return false; }
+};
+
 }  // namespace
 
-std::vector<WindowInfo> MacWindowList::onScreenWindows() {
-    @autoreleasepool {
-        std::vector<WindowInfo> result;
-        NSArray* windows = (__bridge_transfer NSArray*)CGWindowListCopyWindowInfo(
-            kCGWindowListOptionOnScreenOnly | kCGWindowListExcludeDesktopElements, kCGNullWindowID);
-        for (NSDictionary* info in windows) {
-            NSNumber* number = numberIn(info, kCGWindowNumber);
-            NSNumber* owner = numberIn(info, kCGWindowOwnerPID);
-            NSNumber* layer = numberIn(info, kCGWindowLayer);
-            id bounds = info[(__bridge id)kCGWindowBounds];
-            CGRect rect = CGRectZero;
-            // kCGWindowBounds is a dictionary form of a CGRect in the global, top-left-origin
-            // space, the same as accessibility frames.
-            if (!number || !owner || !layer || ![bounds isKindOfClass:[NSDictionary class]] ||
-                !CGRectMakeWithDictionaryRepresentation((__bridge CFDictionaryRef)bounds, &rect)) {
-                continue;
-            }
-            result.push_back(
-                {number.unsignedIntValue, owner.intValue, layer.intValue,
-                 Rect(rect.origin.x, rect.origin.y, rect.size.width, rect.size.height)});
-        }
-        return result;
-    }
-}
-
-// No public interface sets the level of another process's window: a window's level belongs to
-// its owner (-[NSWindow setLevel:] acts on this app's windows only). Refusing here keeps the
-// pin tool honest until a supported way exists.
-bool MacWindowList::keepAbove(std::uint32_t /*windowNumber*/, bool /*on*/) { return false; }
+std::unique_ptr<WindowList> makeMacWindowList() { return std::make_unique<MacWindowList>(); }
 
 }  // namespace quorvane

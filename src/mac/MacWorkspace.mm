@@ -1,7 +1,8 @@
-#include "mac/MacWorkspace.hpp"
+#include "mac/MacPorts.hpp"
 
 #include <cassert>
 #include <memory>
+#include <string>
 
 #include "mac/CancellableHandler.hpp"
 #include "mac/MacFrameworks.h"
@@ -99,171 +100,183 @@ NSNotificationName notificationName(WorkspaceNotification notification) {
 
 namespace quorvane {
 
-bool MacWorkspace::openURL(const std::string& url) {
-    @autoreleasepool {
-        NSString* text = makeNSString(url);
-        if (!text) {
-            return false;
+namespace {
+
+// The shared NSWorkspace and the running applications it knows.
+class MacWorkspace final : public Workspace {
+public:
+    bool openURL(const std::string& url) override {
+        @autoreleasepool {
+            NSString* text = makeNSString(url);
+            if (!text) {
+                return false;
+            }
+            // unconfirmed: check on a Mac first (+[NSURL URLWithString:] and -[NSWorkspace
+            // openURL:] are not in the fact sheet). URLWithString: gives nil for malformed text.
+            NSURL* target = [NSURL URLWithString:text];
+            if (!target) {
+                return false;
+            }
+            return [[NSWorkspace sharedWorkspace] openURL:target];
         }
-        // unconfirmed: check on a Mac first (+[NSURL URLWithString:] and -[NSWorkspace
-        // openURL:] are not in the fact sheet). URLWithString: gives nil for malformed text.
-        NSURL* target = [NSURL URLWithString:text];
-        if (!target) {
-            return false;
+    }
+
+    std::vector<RunningApplication> runningApplications() override {
+        @autoreleasepool {
+            std::vector<RunningApplication> result;
+            // unconfirmed: check on a Mac first (-[NSWorkspace runningApplications] is not in the
+            // fact sheet).
+            for (NSRunningApplication* app in [[NSWorkspace sharedWorkspace] runningApplications]) {
+                result.push_back(describe(app));
+            }
+            return result;
         }
-        return [[NSWorkspace sharedWorkspace] openURL:target];
     }
-}
 
-std::vector<RunningApplication> MacWorkspace::runningApplications() {
-    @autoreleasepool {
-        std::vector<RunningApplication> result;
-        // unconfirmed: check on a Mac first (-[NSWorkspace runningApplications] is not in the
-        // fact sheet).
-        for (NSRunningApplication* app in [[NSWorkspace sharedWorkspace] runningApplications]) {
-            result.push_back(describe(app));
+    std::optional<RunningApplication> runningApplication(int pid) override {
+        @autoreleasepool {
+            NSRunningApplication* app = [NSRunningApplication
+                runningApplicationWithProcessIdentifier:static_cast<pid_t>(pid)];
+            return app ? std::optional(describe(app)) : std::nullopt;
         }
-        return result;
     }
-}
 
-std::optional<RunningApplication> MacWorkspace::runningApplication(int pid) {
-    @autoreleasepool {
-        NSRunningApplication* app =
-            [NSRunningApplication runningApplicationWithProcessIdentifier:static_cast<pid_t>(pid)];
-        return app ? std::optional(describe(app)) : std::nullopt;
-    }
-}
-
-std::optional<RunningApplication> MacWorkspace::frontmostApplication() {
-    @autoreleasepool {
-        // unconfirmed: check on a Mac first (-[NSWorkspace frontmostApplication] is not in the
-        // fact sheet).
-        NSRunningApplication* app = [[NSWorkspace sharedWorkspace] frontmostApplication];
-        return app ? std::optional(describe(app)) : std::nullopt;
-    }
-}
-
-int MacWorkspace::currentProcessID() {
-    return static_cast<int>([NSRunningApplication currentApplication].processIdentifier);
-}
-
-bool MacWorkspace::activate(int pid) {
-    @autoreleasepool {
-        NSRunningApplication* app =
-            [NSRunningApplication runningApplicationWithProcessIdentifier:static_cast<pid_t>(pid)];
-        // No options: ignoring other apps has no effect since macOS 14, and all windows would
-        // pull every window of the app forward, not just the one the user meant.
-        return app ? [app activateWithOptions:static_cast<NSApplicationActivationOptions>(0)]
-                   : false;
-    }
-}
-
-// From Apple's NSRunningApplication reference (check on a Mac first): -terminate "attempts to
-// quit the receiver normally" and returns NO when the request could not be sent (an app that
-// already quit); the app may still ask the user about unsaved documents. -hide returns whether
-// the request was sent. Neither waits for the app to do it.
-bool MacWorkspace::terminateApplication(int pid) {
-    @autoreleasepool {
-        NSRunningApplication* app =
-            [NSRunningApplication runningApplicationWithProcessIdentifier:static_cast<pid_t>(pid)];
-        return app ? [app terminate] : false;
-    }
-}
-
-bool MacWorkspace::hideApplication(int pid) {
-    @autoreleasepool {
-        NSRunningApplication* app =
-            [NSRunningApplication runningApplicationWithProcessIdentifier:static_cast<pid_t>(pid)];
-        return app ? [app hide] : false;
-    }
-}
-
-// -URLForApplicationWithBundleIdentifier: gives nil when no such app is installed;
-// -openApplicationAtURL:configuration:completionHandler: launches asynchronously (macOS 10.15+)
-// and calls back on a concurrent queue, so the handler is left out: the caller places windows
-// as they appear rather than waiting for the launch.
-bool MacWorkspace::launchApplication(const std::string& bundleID) {
-    @autoreleasepool {
-        NSString* identifier = makeNSString(bundleID);
-        NSURL* url = identifier ? [[NSWorkspace sharedWorkspace]
-                                      URLForApplicationWithBundleIdentifier:identifier]
-                                : nil;
-        if (!url) {
-            return false;
+    std::optional<RunningApplication> frontmostApplication() override {
+        @autoreleasepool {
+            // unconfirmed: check on a Mac first (-[NSWorkspace frontmostApplication] is not in the
+            // fact sheet).
+            NSRunningApplication* app = [[NSWorkspace sharedWorkspace] frontmostApplication];
+            return app ? std::optional(describe(app)) : std::nullopt;
         }
-        [[NSWorkspace sharedWorkspace]
-            openApplicationAtURL:url
-                   configuration:[NSWorkspaceOpenConfiguration configuration]
-               completionHandler:nil];
-        return true;
     }
-}
 
-Subscription MacWorkspace::observe(WorkspaceNotification notification, Handler handler) {
-    @autoreleasepool {
-        // Workspace notifications go to the workspace's own centre, not the default one.
-        return observeOnMainQueue([[NSWorkspace sharedWorkspace] notificationCenter],
-                                  notificationName(notification), nil,
-                                  [handler = std::move(handler)](NSNotification* note) {
-                                      id app = note.userInfo[NSWorkspaceApplicationKey];
-                                      if ([app isKindOfClass:[NSRunningApplication class]]) {
-                                          const RunningApplication described = describe(app);
-                                          handler(&described);
-                                      } else {
-                                          handler(nullptr);
-                                      }
-                                  });
+    int currentProcessID() override {
+        return static_cast<int>([NSRunningApplication currentApplication].processIdentifier);
     }
-}
 
-Subscription MacWorkspace::observeDistributed(const std::string& name,
-                                              std::function<void()> handler) {
-    @autoreleasepool {
-        NSString* notification = makeNSString(name);
-        if (!notification) {
-            return {};
+    bool activate(int pid) override {
+        @autoreleasepool {
+            NSRunningApplication* app = [NSRunningApplication
+                runningApplicationWithProcessIdentifier:static_cast<pid_t>(pid)];
+            // No options: ignoring other apps has no effect since macOS 14, and all windows would
+            // pull every window of the app forward, not just the one the user meant.
+            return app ? [app activateWithOptions:static_cast<NSApplicationActivationOptions>(0)]
+                       : false;
         }
-        auto observer =
-            std::make_shared<CancellableHandler<std::function<void()>>>(std::move(handler));
-        QuorvaneRelay* relay = [[QuorvaneRelay alloc] initWithHandler:observer];
-        // An accessory app is almost never active, and an inactive app's distributed
-        // notifications are held back and coalesced by default; the ones observed here (a
-        // screen unlocked) matter when they happen, so they are delivered at once.
-        // unconfirmed: check on a Mac first (NSDistributedNotificationCenter's
-        // -addObserver:selector:name:object:suspensionBehavior: is not in the fact sheet; it was
-        // written from Apple's reference). Posts arrive on the main thread's run loop.
-        [[NSDistributedNotificationCenter defaultCenter]
-                   addObserver:relay
-                      selector:@selector(deliver:)
-                          name:notification
-                        object:nil
-            suspensionBehavior:NSNotificationSuspensionBehaviorDeliverImmediately];
-        // The block keeps the relay alive until it is removed.
-        return Subscription([observer, relay] {
-            observer->cancelled = true;
-            [[NSDistributedNotificationCenter defaultCenter] removeObserver:relay];
-        });
     }
-}
 
-Subscription MacWorkspace::observeRunningApplications(std::function<void()> handler) {
-    @autoreleasepool {
-        auto observer =
-            std::make_shared<CancellableHandler<std::function<void()>>>(std::move(handler));
-        QuorvaneRelay* relay = [[QuorvaneRelay alloc] initWithHandler:observer];
-        // unconfirmed: check on a Mac first (key-value observation of runningApplications and
-        // -removeObserver:forKeyPath: are not in the fact sheet).
-        [[NSWorkspace sharedWorkspace] addObserver:relay
-                                        forKeyPath:@"runningApplications"
-                                           options:NSKeyValueObservingOptionNew
-                                           context:nullptr];
-        // The block keeps the relay alive until the observation is removed.
-        return Subscription([observer, relay] {
-            observer->cancelled = true;
-            [[NSWorkspace sharedWorkspace] removeObserver:relay forKeyPath:@"runningApplications"];
-        });
+    // From Apple's NSRunningApplication reference (check on a Mac first): -terminate "attempts to
+    // quit the receiver normally" and returns NO when the request could not be sent (an app that
+    // already quit); the app may still ask the user about unsaved documents. -hide returns whether
+    // the request was sent. Neither waits for the app to do it.
+    bool terminateApplication(int pid) override {
+        @autoreleasepool {
+            NSRunningApplication* app = [NSRunningApplication
+                runningApplicationWithProcessIdentifier:static_cast<pid_t>(pid)];
+            return app ? [app terminate] : false;
+        }
     }
-}
+
+    bool hideApplication(int pid) override {
+        @autoreleasepool {
+            NSRunningApplication* app = [NSRunningApplication
+                runningApplicationWithProcessIdentifier:static_cast<pid_t>(pid)];
+            return app ? [app hide] : false;
+        }
+    }
+
+    // -URLForApplicationWithBundleIdentifier: gives nil when no such app is installed;
+    // -openApplicationAtURL:configuration:completionHandler: launches asynchronously (macOS 10.15+)
+    // and calls back on a concurrent queue, so the handler is left out: the caller places windows
+    // as they appear rather than waiting for the launch.
+    bool launchApplication(const std::string& bundleID) override {
+        @autoreleasepool {
+            NSString* identifier = makeNSString(bundleID);
+            NSURL* url = identifier ? [[NSWorkspace sharedWorkspace]
+                                          URLForApplicationWithBundleIdentifier:identifier]
+                                    : nil;
+            if (!url) {
+                return false;
+            }
+            [[NSWorkspace sharedWorkspace]
+                openApplicationAtURL:url
+                       configuration:[NSWorkspaceOpenConfiguration configuration]
+                   completionHandler:nil];
+            return true;
+        }
+    }
+
+    [[nodiscard]] Subscription observe(WorkspaceNotification notification,
+                                       Handler handler) override {
+        @autoreleasepool {
+            // Workspace notifications go to the workspace's own centre, not the default one.
+            return observeOnMainQueue([[NSWorkspace sharedWorkspace] notificationCenter],
+                                      notificationName(notification), nil,
+                                      [handler = std::move(handler)](NSNotification* note) {
+                                          id app = note.userInfo[NSWorkspaceApplicationKey];
+                                          if ([app isKindOfClass:[NSRunningApplication class]]) {
+                                              const RunningApplication described = describe(app);
+                                              handler(&described);
+                                          } else {
+                                              handler(nullptr);
+                                          }
+                                      });
+        }
+    }
+
+    [[nodiscard]] Subscription observeDistributed(const std::string& name,
+                                                  std::function<void()> handler) override {
+        @autoreleasepool {
+            NSString* notification = makeNSString(name);
+            if (!notification) {
+                return {};
+            }
+            auto observer =
+                std::make_shared<CancellableHandler<std::function<void()>>>(std::move(handler));
+            QuorvaneRelay* relay = [[QuorvaneRelay alloc] initWithHandler:observer];
+            // An accessory app is almost never active, and an inactive app's distributed
+            // notifications are held back and coalesced by default; the ones observed here (a
+            // screen unlocked) matter when they happen, so they are delivered at once.
+            // unconfirmed: check on a Mac first (NSDistributedNotificationCenter's
+            // -addObserver:selector:name:object:suspensionBehavior: is not in the fact sheet; it
+            // was written from Apple's reference). Posts arrive on the main thread's run loop.
+            [[NSDistributedNotificationCenter defaultCenter]
+                       addObserver:relay
+                          selector:@selector(deliver:)
+                              name:notification
+                            object:nil
+                suspensionBehavior:NSNotificationSuspensionBehaviorDeliverImmediately];
+            // The block keeps the relay alive until it is removed.
+            return Subscription([observer, relay] {
+                observer->cancelled = true;
+                [[NSDistributedNotificationCenter defaultCenter] removeObserver:relay];
+            });
+        }
+    }
+
+    [[nodiscard]] Subscription observeRunningApplications(std::function<void()> handler) override {
+        @autoreleasepool {
+            auto observer =
+                std::make_shared<CancellableHandler<std::function<void()>>>(std::move(handler));
+            QuorvaneRelay* relay = [[QuorvaneRelay alloc] initWithHandler:observer];
+            // unconfirmed: check on a Mac first (key-value observation of runningApplications and
+            // -removeObserver:forKeyPath: are not in the fact sheet).
+            [[NSWorkspace sharedWorkspace] addObserver:relay
+                                            forKeyPath:@"runningApplications"
+                                               options:NSKeyValueObservingOptionNew
+                                               context:nullptr];
+            // The block keeps the relay alive until the observation is removed.
+            return Subscription([observer, relay] {
+                observer->cancelled = true;
+                [[NSWorkspace sharedWorkspace] removeObserver:relay
+                                                   forKeyPath:@"runningApplications"];
+            });
+        }
+    }
+};
+
+}  // namespace
+
+std::unique_ptr<Workspace> makeMacWorkspace() { return std::make_unique<MacWorkspace>(); }
 
 }  // namespace quorvane

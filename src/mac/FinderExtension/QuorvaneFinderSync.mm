@@ -3,12 +3,13 @@
 // one distributed notification whose object is the request (a sandboxed sender may not attach
 // a dictionary), and the app's finder-new-file tool carries it out.
 
-#include <string>
+#include <cstddef>
+#include <iterator>
 
 #include "mac/FinderExtension/FinderSyncFrameworks.h"
 #include "mac/MacStrings.hpp"
 #include "platform/FinderExtensionChannel.hpp"
-#include "tools/system/FinderRequest.hpp"
+#include "tools/system/FinderMenu.hpp"
 
 namespace {
 
@@ -24,19 +25,28 @@ void send(const quorvane::FinderRequest& request) {
           deliverImmediately:YES];
 }
 
-// The folder a new file goes into: the window's folder for its background, a clicked folder
-// itself, or the folder holding a clicked file.
-std::string targetFolder() {
-    NSURL* target = [[FIFinderSyncController defaultController] targetedURL];
-    if (!target) {
-        return {};
+// What was right-clicked, as Finder tells it.
+quorvane::FinderMenu::Click click() {
+    FIFinderSyncController* controller = [FIFinderSyncController defaultController];
+    quorvane::FinderMenu::Click click;
+    if (NSURL* target = [controller targetedURL]) {
+        NSNumber* isFolder = nil;
+        // unconfirmed: check on a Mac first (getResourceValue:forKey:error: and
+        // NSURLIsDirectoryKey are written from Apple's reference).
+        [target getResourceValue:&isFolder forKey:NSURLIsDirectoryKey error:nil];
+        click.target = quorvane::utf8String(target.path);
+        click.targetIsFolder = isFolder.boolValue;
     }
-    NSNumber* isFolder = nil;
-    // unconfirmed: check on a Mac first (getResourceValue:forKey:error: and
-    // NSURLIsDirectoryKey are written from Apple's reference).
-    [target getResourceValue:&isFolder forKey:NSURLIsDirectoryKey error:nil];
-    NSURL* folder = isFolder.boolValue ? target : [target URLByDeletingLastPathComponent];
-    return quorvane::utf8String(folder.path);
+    for (NSURL* url in [controller selectedItemURLs]) {
+        click.selected.push_back(quorvane::utf8String(url.path));
+    }
+    return click;
+}
+
+void choose(quorvane::FinderMenu::Entry entry) {
+    if (const auto request = quorvane::FinderMenu::request(entry, click())) {
+        send(*request);
+    }
 }
 
 }  // namespace
@@ -61,57 +71,38 @@ std::string targetFolder() {
         return nil;
     }
     NSMenu* menu = [[NSMenu alloc] initWithTitle:@""];
-    [menu addItemWithTitle:@"New Text File" action:@selector(newTextFile:) keyEquivalent:@""];
-    [menu addItemWithTitle:@"New Markdown File"
-                    action:@selector(newMarkdownFile:)
-             keyEquivalent:@""];
-    [menu addItemWithTitle:@"New Empty File" action:@selector(newEmptyFile:) keyEquivalent:@""];
-    [menu addItemWithTitle:@"Copy Path" action:@selector(copyPath:) keyEquivalent:@""];
-    return menu;
-}
-
-- (void)newFileOfKind:(const char*)kind {
-    quorvane::FinderRequest request;
-    request.action = quorvane::FinderRequest::Action::newFile;
-    request.folder = targetFolder();
-    request.kind = kind;
-    if (!request.folder.empty()) {
-        send(request);
+    // Finder copies the items into its own menu and sends each item's action here, so every
+    // entry has an action of its own.
+    const SEL actions[] = {@selector(newTextFile:), @selector(newMarkdownFile:),
+                           @selector(newEmptyFile:), @selector(copyPath:)};
+    static_assert(std::size(actions) == std::size(quorvane::FinderMenu::kEntries));
+    for (std::size_t index = 0; index < std::size(actions); ++index) {
+        [menu addItemWithTitle:quorvane::makeNSString(quorvane::FinderMenu::title(
+                                   quorvane::FinderMenu::kEntries[index]))
+                        action:actions[index]
+                 keyEquivalent:@""];
     }
+    return menu;
 }
 
 - (IBAction)newTextFile:(id)sender {
     (void)sender;
-    [self newFileOfKind:"txt"];
+    choose(quorvane::FinderMenu::Entry::newTextFile);
 }
 
 - (IBAction)newMarkdownFile:(id)sender {
     (void)sender;
-    [self newFileOfKind:"md"];
+    choose(quorvane::FinderMenu::Entry::newMarkdownFile);
 }
 
 - (IBAction)newEmptyFile:(id)sender {
     (void)sender;
-    [self newFileOfKind:""];
+    choose(quorvane::FinderMenu::Entry::newEmptyFile);
 }
 
 - (IBAction)copyPath:(id)sender {
     (void)sender;
-    quorvane::FinderRequest request;
-    request.action = quorvane::FinderRequest::Action::copyPath;
-    FIFinderSyncController* controller = [FIFinderSyncController defaultController];
-    for (NSURL* url in [controller selectedItemURLs]) {
-        request.items.push_back(quorvane::utf8String(url.path));
-    }
-    // The window's background: its own folder.
-    if (request.items.empty()) {
-        if (NSURL* target = [controller targetedURL]) {
-            request.items.push_back(quorvane::utf8String(target.path));
-        }
-    }
-    if (!request.items.empty()) {
-        send(request);
-    }
+    choose(quorvane::FinderMenu::Entry::copyPath);
 }
 
 @end
