@@ -48,7 +48,12 @@
 namespace quorvane {
 
 // Every port as a fake, bundled the way the app bundles the real ones.
+// Made and destroyed out of line: constructing every fake where a test does would make each
+// test file compile every fake's virtual methods again, seconds per file.
 struct FakePlatform {
+    FakePlatform();
+    ~FakePlatform();
+
     MemoryPreferences preferences;
     ManualScheduler scheduler;
     FakePermissionProbe permissionProbe;
@@ -96,51 +101,7 @@ struct FakePlatform {
     FakeDiskArbitration diskArbitration;
     FakeHIDBatteries hidBatteries;
 
-    Platform platform() {
-        return {preferences,
-                scheduler,
-                permissionProbe,
-                workspace,
-                notifications,
-                events,
-                hotKeys,
-                accessibility,
-                eventMonitors,
-                screens,
-                menuBar,
-                audioHardware,
-                processFacts,
-                input,
-                keyboardLayout,
-                windowList,
-                preferenceDomains,
-                childProcesses,
-                hidEventServices,
-                pasteboard,
-                thumbnails,
-                hashing,
-                dateFormatting,
-                displayConfiguration,
-                systemLog,
-                power,
-                fileSystem,
-                *archives,
-                finderExtension,
-                screenCapture,
-                textRecognition,
-                colorSampler,
-                firmwareVariables,
-                fileIcons,
-                defaultApplications,
-                hostStatistics,
-                userCalendar,
-                calendarEvents,
-                displayControl,
-                powerSources,
-                chargingHelper,
-                diskArbitration,
-                hidBatteries};
-    }
+    Platform platform();
 };
 
 }  // namespace quorvane
