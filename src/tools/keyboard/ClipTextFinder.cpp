@@ -35,30 +35,24 @@ constexpr std::array<std::uint16_t, 128> kCommonness = [] {
 }  // namespace
 
 ClipTextFinder::ClipTextFinder(std::string folded) : folded_(std::move(folded)) {
-    std::uint16_t rarest = UINT16_MAX;
-    std::uint16_t nextRarest = UINT16_MAX;
+    std::vector<std::size_t> ascii;
     for (std::size_t i = 0; i < folded_.size(); ++i) {
-        const auto byte = static_cast<unsigned char>(folded_[i]);
-        if (byte >= 0x80) {
-            continue;
-        }
-        const std::uint16_t commonness = kCommonness[byte];
-        if (!anchored_ || commonness < rarest) {
-            if (anchored_) {
-                nextRarest = rarest;
-                second_ = first_;
-            }
-            rarest = commonness;
-            first_ = i;
-            anchored_ = true;
-        } else if (commonness < nextRarest || nextRarest == UINT16_MAX) {
-            nextRarest = commonness;
-            second_ = i;
+        if (static_cast<unsigned char>(folded_[i]) < 0x80) {
+            ascii.push_back(i);
         }
     }
-    if (anchored_ && nextRarest == UINT16_MAX) {
-        second_ = first_;
+    if (ascii.empty()) {
+        return;
     }
+    std::stable_sort(ascii.begin(), ascii.end(), [this](std::size_t a, std::size_t b) {
+        return kCommonness[static_cast<unsigned char>(folded_[a])] <
+               kCommonness[static_cast<unsigned char>(folded_[b])];
+    });
+    // A query with fewer ASCII bytes than anchors repeats its last one.
+    for (std::size_t i = 0; i < anchors_.size(); ++i) {
+        anchors_[i] = ascii[std::min(i, ascii.size() - 1)];
+    }
+    anchored_ = true;
 }
 
 bool ClipTextFinder::matchesAt(std::string_view text, std::size_t at) const {
@@ -100,30 +94,40 @@ bool ClipTextFinder::foundIn(std::string_view text) const {
     if (!anchored_) {
         return ClipText::contains(text, folded_);
     }
-    const auto patternOf = [this](std::size_t index) {
-        return ByteBlock::filled(static_cast<std::uint8_t>(folded_[index]) | 0x20);
-    };
-    const ByteBlock::Bytes firstPattern = patternOf(first_);
-    const ByteBlock::Bytes secondPattern = patternOf(second_);
+    std::array<ByteBlock::Bytes, kAnchors> patterns;
+    for (std::size_t i = 0; i < kAnchors; ++i) {
+        patterns[i] = ByteBlock::filled(static_cast<std::uint8_t>(folded_[anchors_[i]]) | 0x20);
+    }
     const char* const data = text.data();
-    const std::size_t last = text.size() - length;
-    std::size_t at = 0;
-    // Sixteen starting places per step, while the bytes read for both anchors lie in the text.
+    const std::size_t places = text.size() - length + 1;
     // Setting the 0x20 bit makes an ASCII capital its small letter; other bytes that it merges
     // only cost a needless comparison.
-    for (; at + length + ByteBlock::kSize <= text.size() + 1; at += ByteBlock::kSize) {
-        const auto candidates = ((ByteBlock::load(data + at + first_) | 0x20) == firstPattern) &
-                                ((ByteBlock::load(data + at + second_) | 0x20) == secondPattern);
-        if (!ByteBlock::none(candidates) &&
-            ByteBlock::anyMarked(candidates,
-                                 [&](std::size_t index) { return matchesAt(text, at + index); })) {
-            return true;
+    const auto anchorAt = [&](std::size_t at, std::size_t anchor) {
+        return (ByteBlock::load(data + at + anchors_[anchor]) | 0x20) == patterns[anchor];
+    };
+    const auto foundFrom = [&](std::size_t at) {
+        const auto candidates = anchorAt(at, 0) & anchorAt(at, 1) & anchorAt(at, 2);
+        return !ByteBlock::none(candidates) &&
+               ByteBlock::anyMarked(candidates,
+                                    [&](std::size_t index) { return matchesAt(text, at + index); });
+    };
+    if (places >= ByteBlock::kSize) {
+        std::size_t at = 0;
+        for (; at + ByteBlock::kSize <= places; at += ByteBlock::kSize) {
+            if (foundFrom(at)) {
+                return true;
+            }
         }
+        // The last places in one more block, overlapping the one before.
+        return at < places && foundFrom(places - ByteBlock::kSize);
     }
     const auto caseless = [](char byte) { return static_cast<unsigned char>(byte) | 0x20U; };
-    for (; at <= last; ++at) {
-        if (caseless(data[at + first_]) == caseless(folded_[first_]) &&
-            caseless(data[at + second_]) == caseless(folded_[second_]) && matchesAt(text, at)) {
+    for (std::size_t at = 0; at < places; ++at) {
+        if (std::all_of(anchors_.begin(), anchors_.end(),
+                        [&](std::size_t anchor) {
+                            return caseless(data[at + anchor]) == caseless(folded_[anchor]);
+                        }) &&
+            matchesAt(text, at)) {
             return true;
         }
     }

@@ -1,15 +1,16 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <string>
 #include <string_view>
 
 namespace quorvane {
 
-// Finds one folded query in many texts, case-insensitively, without folding the texts. Two
-// ASCII bytes of the query, the rarest in ordinary writing, are looked for eight text bytes at
-// a time at their distance from each other; only where both are present is the text folded
-// and compared. Sound because ASCII bytes fold only to ASCII bytes and nothing else folds to
+// Finds one folded query in many texts, case-insensitively, without folding the texts. Three
+// ASCII bytes of the query, the rarest in ordinary writing, are looked for sixteen starting
+// places at a time at their distances from each other; only where all are present is the text
+// folded and compared. Sound because ASCII bytes fold only to ASCII bytes and nothing else folds to
 // them. A query without ASCII falls back to folding the text piece by piece.
 class ClipTextFinder {
 public:
@@ -22,10 +23,11 @@ public:
 private:
     bool matchesAt(std::string_view text, std::size_t at) const;
 
+    static constexpr std::size_t kAnchors = 3;
+
     std::string folded_;
     bool anchored_ = false;
-    std::size_t first_ = 0;
-    std::size_t second_ = 0;
+    std::array<std::size_t, kAnchors> anchors_{};
 };
 
 }  // namespace quorvane
