@@ -132,22 +132,6 @@ TEST_F(CommandLineTest, SearchControlsAndSettingsWorkOnAnotherStore) {
     EXPECT_NE(run({"--help"}).out.find(host.file.string()), std::string::npos);
 }
 
-TEST_F(CommandLineTest, SettingsPrintTheWindowToolsPages) {
-    const auto snap = run({"settings", "window-snap"});
-    EXPECT_EQ(snap.status, 0) << snap.err;
-    EXPECT_NE(snap.out.find("Left half: ⌃⌥←\n"), std::string::npos) << snap.out;
-    EXPECT_NE(snap.out.find("Move to next display: ⌃⌥⌘→\n"), std::string::npos);
-    const auto drag = run({"settings", "window-drag"});
-    EXPECT_EQ(drag.status, 0) << drag.err;
-    EXPECT_NE(drag.out.find("Grabbing the middle resizes from the bottom-right corner."),
-              std::string::npos)
-        << drag.out;
-    const auto focus = run({"settings", "stop-focus-stealing"});
-    EXPECT_EQ(focus.status, 0) << focus.err;
-    EXPECT_NE(focus.out.find("Nothing stopped yet."), std::string::npos) << focus.out;
-    EXPECT_FALSE(std::filesystem::exists(host.file)) << "showing a page writes nothing";
-}
-
 TEST_F(CommandLineTest, SettingsSetChangesAnyToolsSettingByItsLabel) {
     EXPECT_EQ(run({"settings", "keep-awake", "set", "keep the display on too", "maybe"}).status, 2);
     EXPECT_FALSE(std::filesystem::exists(host.file)) << "a refused value writes nothing";

@@ -22,8 +22,6 @@ check "tools" 0 "$quorvane" --prefs "$store" tools
 [ "$(wc -l <"$dir/out")" -eq 68 ] || { echo "FAIL: tools should list 68 lines"; failures=$((failures + 1)); }
 head -n 1 "$dir/out" | grep -q '^stop-focus-stealing ' || { echo "FAIL: first tool"; failures=$((failures + 1)); }
 check "tools --json" 0 "$quorvane" --prefs "$store" tools --json
-check "search" 0 "$quorvane" --prefs "$store" search snapping
-grep -qx 'window-snap' "$dir/out" || { echo "FAIL: search snapping"; failures=$((failures + 1)); }
 check "unknown tool" 2 "$quorvane" --prefs "$store" enable no-such-tool
 [ "$(wc -l <"$dir/err")" -eq 1 ] || { echo "FAIL: one line on stderr"; failures=$((failures + 1)); }
 [ ! -e "$store" ] || { echo "FAIL: a refusal wrote the store"; failures=$((failures + 1)); }
@@ -40,17 +38,6 @@ check "enable a preference tool" 0 "$quorvane" --prefs "$store" enable show-hidd
 grep -q '"AppleShowAllFiles": true' "$dir/com.apple.finder.json" || { echo "FAIL: Finder's domain not written"; failures=$((failures + 1)); }
 check "disable a preference tool" 0 "$quorvane" --prefs "$store" disable show-hidden-files
 grep -q 'AppleShowAllFiles' "$dir/com.apple.finder.json" && { echo "FAIL: Finder's domain not put back"; failures=$((failures + 1)); }
-
-keys="$dir/keys.json"
-check "keys bad name" 2 "$quorvane" --prefs "$keys" keys add hyper escape
-grep -q 'capsLock, escape' "$dir/err" || { echo "FAIL: keys lists the valid names"; failures=$((failures + 1)); }
-[ ! -e "$keys" ] || { echo "FAIL: a bad key name wrote the store"; failures=$((failures + 1)); }
-check "keys add" 0 "$quorvane" --prefs "$keys" keys add capsLock escape --keyboards external
-check "keys show" 0 "$quorvane" --prefs "$keys" keys show
-grep -q '"HIDKeyboardModifierMappingSrc":30064771129,"HIDKeyboardModifierMappingDst":30064771113' "$dir/out" ||
-    { echo "FAIL: keys show gives the hidutil call"; failures=$((failures + 1)); }
-check "keys remove" 0 "$quorvane" --prefs "$keys" keys remove capsLock
-check "keys presets" 0 "$quorvane" --prefs "$keys" keys presets
 
 if [ "$failures" -eq 0 ]; then echo "command end to end: all checks passed"; fi
 exit "$failures"

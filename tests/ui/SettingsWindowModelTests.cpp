@@ -54,15 +54,6 @@ TEST(SettingsWindowModel, TheSidebarGroupsEveryToolUnderItsCategoryInOrder) {
     EXPECT_EQ(tools, 68u);
 }
 
-TEST(SettingsWindowModel, HeadingsAreQuietAndUnavailableToolsGreyedInTheSidebar) {
-    EXPECT_EQ((Row{.kind = Kind::category, .isAvailable = true}).titleColor(),
-              ColorRole::secondaryLabel);
-    EXPECT_EQ((Row{.kind = Kind::general}).titleColor(), ColorRole::label);
-    EXPECT_EQ((Row{.kind = Kind::tool, .isAvailable = true}).titleColor(), ColorRole::label);
-    EXPECT_EQ((Row{.kind = Kind::tool, .isAvailable = false}).titleColor(),
-              ColorRole::tertiaryLabel);
-}
-
 TEST(SettingsWindowModel, SearchMatchesEveryWordCaseFoldedOverTheCatalog) {
     LaunchedApp launched;
     launched.launchCatalog();

@@ -85,11 +85,8 @@ TEST(HidutilGolden, ListsThatNeedCare) {
     expectGolden("lists", text);
 }
 
-TEST(HidutilCommand, CapsLockToEscapeIsPassedAsFullUsageValues) {
-    const auto table = HidutilCommand::table({mapping(Key::capsLock, Key::escape)}, {}, true);
-    ASSERT_EQ(table.size(), 1u);
-    EXPECT_EQ(table[0].source, 30064771129);
-    EXPECT_EQ(table[0].destination, 30064771113);
+// The usage values themselves are in the golden files; here the empty table and the quoting.
+TEST(HidutilCommand, AnEmptyTableIsStillSetAndTheShownCommandIsQuotedForTheShell) {
     EXPECT_EQ(
         HidutilCommand::arguments(false, {}),
         (std::vector<std::string>{"property", "--matching",

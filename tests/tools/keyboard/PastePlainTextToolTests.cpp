@@ -93,19 +93,5 @@ TEST_F(PastePlainTextToolTest, NoTextOrARefusedWriteChangesNothing) {
     EXPECT_EQ(commandVs(), 0u);
 }
 
-TEST_F(PastePlainTextToolTest, ShortcutIsStoredAndItsConflictShown) {
-    tool.stop();
-    fakes.hotKeys.takenElsewhere.insert({9, kCarbonOptionCommandShift});
-    tool.start();
-    EXPECT_TRUE(tool.shortcutConflict());
-    const auto page = tool.settingsPage();
-    const auto& row = std::get<SettingsRow::Shortcut>(page.sections.at(0).rows.at(0).kind);
-    EXPECT_EQ(row.displayText(), "⌥⇧⌘V");
-    EXPECT_TRUE(row.hasConflict());
-    tool.setShortcut(std::nullopt);
-    EXPECT_FALSE(tool.shortcut());
-    EXPECT_TRUE(fakes.preferences.data(PastePlainTextTool::kShortcutKey));
-}
-
 }  // namespace
 }  // namespace quorvane

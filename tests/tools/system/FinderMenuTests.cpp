@@ -49,17 +49,5 @@ TEST(FinderMenuTests, AClickThatNamesNothingSendsNothing) {
     }
 }
 
-TEST(FinderMenuTests, EveryEntryHasItsOwnTitle) {
-    std::vector<std::string> titles;
-    for (const Entry entry : FinderMenu::kEntries) {
-        const std::string title = FinderMenu::title(entry);
-        EXPECT_FALSE(title.empty());
-        for (const auto& other : titles) {
-            EXPECT_NE(title, other);
-        }
-        titles.push_back(title);
-    }
-}
-
 }  // namespace
 }  // namespace quorvane

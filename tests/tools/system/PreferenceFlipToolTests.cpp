@@ -180,28 +180,5 @@ TEST_F(FlipToolTest, AChangeThatCannotBeSavedIsShownAndLosesNothing) {
     EXPECT_TRUE(backupKeys(fakes.preferences).empty());
 }
 
-TEST_F(FlipToolTest, ThePageSaysWhatChangesWhatRestartsAndWhenItShows) {
-    auto tool = make("fit-more-menu-bar-icons");
-    auto page = tool->settingsPage();
-    std::string text;
-    for (const auto& section : page.sections) {
-        for (const auto& row : section.rows) {
-            if (const auto* note = std::get_if<SettingsRow::Note>(&row.kind)) {
-                text += note->text + "\n";
-            } else if (const auto* list = std::get_if<SettingsRow::ItemList>(&row.kind)) {
-                for (const auto& line : list->items()) {
-                    text += line + "\n";
-                }
-            }
-        }
-    }
-    EXPECT_NE(text.find("all apps, this Mac only: NSStatusItemSpacing = 6"), std::string::npos)
-        << text;
-    EXPECT_NE(text.find("restarts ControlCenter and SystemUIServer, which come back"),
-              std::string::npos)
-        << text;
-    EXPECT_NE(text.find("log out"), std::string::npos) << text;
-}
-
 }  // namespace
 }  // namespace quorvane

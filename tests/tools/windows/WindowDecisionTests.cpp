@@ -93,17 +93,14 @@ TEST(WindowDecisions, DimmingReordersOncePerChangeOfFocusedWindow) {
         << "shown again under the same window after the desktop";
 }
 
-TEST(WindowDecisions, TheSwitcherGoesRoundBothWays) {
+// Going round both ways and switching on release are checked with the tool's keys.
+TEST(WindowDecisions, TheSwitcherNeedsAWindowSaysWhereItIsAndCommitsOnce) {
     WindowSwitcherEngine engine;
     EXPECT_FALSE(engine.open({})) << "nothing to switch to";
     ASSERT_TRUE(engine.open({{"Mail", "Inbox"}, {"Editor", ""}, {"Notes", "Today"}}));
-    EXPECT_EQ(engine.selected(), 1u);
     EXPECT_EQ(engine.caption(), "Editor\n2 of 3 · let go to switch, Esc to stay");
-    engine.step(1);
-    engine.step(1);
-    EXPECT_EQ(engine.selected(), 0u);
     engine.step(-1);
-    EXPECT_EQ(engine.selected(), 2u);
+    engine.step(-1);
     EXPECT_EQ(engine.commit(), 2u);
     EXPECT_EQ(engine.commit(), std::nullopt) << "closed";
     ASSERT_TRUE(engine.open({{"Mail", "Inbox"}}));
