@@ -14,13 +14,16 @@ SettingsPage MuteStartupSoundTool::settingsPage() {
                            "not Quorvane is running. Turning it off puts back exactly the setting "
                            "you had before."},
          {}});
+    section.rows.push_back({SettingsRow::Note{"Waiting for the administrator password…"},
+                            [this] { return isWaiting(); }});
     section.rows.push_back(
         {SettingsRow::Warning{lastError_}, [this] { return !lastError_.empty(); }});
-    section.rows.push_back({SettingsRow::Warning{"The startup sound is still muted by Quorvane."},
-                            [this] { return !running_ && hasBackup(); }});
+    const auto stillMuted = [this] { return !running_ && !isWaiting() && hasBackup(); };
+    section.rows.push_back(
+        {SettingsRow::Warning{"The startup sound is still muted by Quorvane."}, stillMuted});
     section.rows.push_back(
         {SettingsRow::Button{"Turn the Startup Sound Back On…", [this] { restore(); }},
-         [this] { return !running_ && hasBackup(); }});
+         stillMuted});
     SettingsPage page;
     page.add(std::move(section));
     return page;

@@ -77,6 +77,9 @@ SettingsPage PowerScheduleTool::settingsPage() {
                                PowerSchedule::describe(platform_.power.copyRepeatingPowerEvents())},
              {}});
     }
+    if (request_) {
+        end.rows.push_back({SettingsRow::Note{"Waiting for the administrator password…"}, {}});
+    }
     if (lastError_) {
         end.rows.push_back({SettingsRow::Warning{*lastError_}, {}});
     }
