@@ -15,6 +15,8 @@ namespace quorvane {
 // a cancelled prompt ends osascript with status 1. Dropping the run closes the window.
 struct AdministratorCommand {
     static constexpr const char* kOsascript = "/usr/bin/osascript";
+    // What a page says while the window is up.
+    static constexpr const char* kWaitingNote = "Waiting for the administrator password…";
 
     // osascript's arguments: the script, with the program and each argument quoted for the
     // shell and the whole command and the reason quoted as AppleScript text.

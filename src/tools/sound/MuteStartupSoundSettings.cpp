@@ -1,5 +1,7 @@
 #include "tools/sound/MuteStartupSoundTool.hpp"
 
+#include "app/AdministratorCommand.hpp"
+
 namespace quorvane {
 
 SettingsPage MuteStartupSoundTool::settingsPage() {
@@ -14,8 +16,8 @@ SettingsPage MuteStartupSoundTool::settingsPage() {
                            "not Quorvane is running. Turning it off puts back exactly the setting "
                            "you had before."},
          {}});
-    section.rows.push_back({SettingsRow::Note{"Waiting for the administrator password…"},
-                            [this] { return isWaiting(); }});
+    section.rows.push_back(
+        {SettingsRow::Note{AdministratorCommand::kWaitingNote}, [this] { return isWaiting(); }});
     section.rows.push_back(
         {SettingsRow::Warning{lastError_}, [this] { return !lastError_.empty(); }});
     const auto stillMuted = [this] { return !running_ && !isWaiting() && hasBackup(); };

@@ -2,6 +2,7 @@
 
 #include <cstdlib>
 
+#include "app/AdministratorCommand.hpp"
 #include "platform/PowerManagement.hpp"
 
 namespace quorvane {
@@ -78,7 +79,7 @@ SettingsPage PowerScheduleTool::settingsPage() {
              {}});
     }
     if (request_) {
-        end.rows.push_back({SettingsRow::Note{"Waiting for the administrator password…"}, {}});
+        end.rows.push_back({SettingsRow::Note{AdministratorCommand::kWaitingNote}, {}});
     }
     if (lastError_) {
         end.rows.push_back({SettingsRow::Warning{*lastError_}, {}});

@@ -111,7 +111,7 @@ TEST_F(MuteStartupSoundToolTest, WhileTheWindowIsUpThePageWaitsAndSwitchingTheTo
     const auto page = [this] { return SettingsTextRenderer::render(tool.settingsPage()); };
     tool.start();
     EXPECT_TRUE(tool.isWaiting());
-    EXPECT_NE(page().find("Waiting for the administrator password"), std::string::npos);
+    EXPECT_NE(page().find(AdministratorCommand::kWaitingNote), std::string::npos);
     // Off before the answer: the window closes, and as nvram did not run nothing is put back.
     tool.stop();
     EXPECT_TRUE(processes.started.at(0)->cancelled);

@@ -147,9 +147,9 @@ TEST_F(PowerScheduleToolTest, WhileTheWindowIsUpEditsAreRefusedAndTurningOffClos
     PowerScheduleTool tool{descriptor, fakes.platform()};
     tool.start();
     EXPECT_TRUE(tool.isWaiting());
-    EXPECT_NE(SettingsTextRenderer::render(tool.settingsPage())
-                  .find("Waiting for the administrator password"),
-              std::string::npos);
+    EXPECT_NE(
+        SettingsTextRenderer::render(tool.settingsPage()).find(AdministratorCommand::kWaitingNote),
+        std::string::npos);
     PowerSchedule edit = tool.schedule();
     edit.wakeMinutes = 6 * 60;
     tool.setSchedule(edit);
