@@ -1,6 +1,6 @@
 #include "app/AdministratorCommand.hpp"
 
-#include "platform/ChildProcesses.hpp"
+#include <utility>
 
 namespace quorvane {
 
@@ -40,11 +40,12 @@ std::vector<std::string> AdministratorCommand::osascriptArguments(
                       appleScriptText(reason) + " with administrator privileges"};
 }
 
-ChildProcessStatus AdministratorCommand::run(ChildProcesses& processes,
-                                             const std::string& executablePath,
-                                             const std::vector<std::string>& arguments,
-                                             const std::string& reason) {
-    return processes.run(kOsascript, osascriptArguments(executablePath, arguments, reason));
+std::unique_ptr<ChildProcessRun> AdministratorCommand::start(
+    ChildProcesses& processes, const std::string& executablePath,
+    const std::vector<std::string>& arguments, const std::string& reason,
+    ChildProcesses::Completion finished) {
+    return processes.start(kOsascript, osascriptArguments(executablePath, arguments, reason),
+                           std::move(finished));
 }
 
 }  // namespace quorvane

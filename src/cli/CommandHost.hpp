@@ -11,6 +11,7 @@
 namespace quorvane {
 
 class Preferences;
+class Scheduler;
 
 // What the command line needs from the system it runs on: the application's own preference
 // store, and a way to tell a running Quorvane that the store changed from here.
@@ -28,8 +29,11 @@ public:
     // Other programs' preference domains as the tools see them with the default store; nullptr
     // keeps them as JSON files beside that store.
     virtual std::unique_ptr<PreferenceDomains> openDefaultPreferenceDomains() { return nullptr; }
-    // What runs programs for the tools with the default store; nullptr runs nothing.
-    virtual std::unique_ptr<ChildProcesses> makeChildProcesses() { return nullptr; }
+    // What runs programs for the tools with the default store, watching started ones from
+    // this scheduler's run loop; nullptr runs nothing.
+    virtual std::unique_ptr<ChildProcesses> makeChildProcesses(Scheduler& /*scheduler*/) {
+        return nullptr;
+    }
     // The file system and the facts about installed apps for the file commands; nullptr uses
     // the portable ones.
     virtual std::unique_ptr<FileSystem> makeFileSystem() { return nullptr; }

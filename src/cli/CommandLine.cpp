@@ -390,7 +390,7 @@ private:
     void openForeignDomains(bool usePrefsFile) {
         if (!usePrefsFile) {
             session_.preferenceDomains = host_.openDefaultPreferenceDomains();
-            session_.childProcesses = host_.makeChildProcesses();
+            session_.childProcesses = host_.makeChildProcesses(session_.scheduler);
         }
         if (!session_.preferenceDomains) {
             const auto* file = dynamic_cast<const FilePreferences*>(session_.preferences.get());
@@ -398,7 +398,7 @@ private:
                 file != nullptr ? file->path().parent_path() : std::filesystem::path("."));
         }
         if (!session_.childProcesses) {
-            session_.childProcesses = std::make_unique<NoChildProcesses>();
+            session_.childProcesses = std::make_unique<NoChildProcesses>(session_.scheduler);
         }
     }
 

@@ -41,7 +41,7 @@ struct AppState {
     std::unique_ptr<WindowList> windowList = makeMacWindowList();
     std::unique_ptr<PreferenceDomains> preferenceDomains = makeMacPreferenceDomains();
     // posix_spawn is plain POSIX, so the portable runner is the Mac one too.
-    SpawnedChildProcesses childProcesses;
+    SpawnedChildProcesses childProcesses{*scheduler};
     std::unique_ptr<HIDEventServices> hidEventServices = makeMacHIDEventServices();
     std::unique_ptr<Pasteboard> pasteboard = makeMacPasteboard();
     std::unique_ptr<Thumbnails> thumbnails = makeMacThumbnails();

@@ -32,8 +32,8 @@ public:
         return makeMacPreferenceDomains();
     }
 
-    std::unique_ptr<ChildProcesses> makeChildProcesses() override {
-        return std::make_unique<SpawnedChildProcesses>();
+    std::unique_ptr<ChildProcesses> makeChildProcesses(Scheduler& scheduler) override {
+        return std::make_unique<SpawnedChildProcesses>(scheduler);
     }
 
     std::unique_ptr<FileSystem> makeFileSystem() override { return makeMacFileSystem(); }

@@ -1,5 +1,7 @@
 #include "tools/sound/MuteStartupSoundTool.hpp"
 
+#include "app/AdministratorCommand.hpp"
+
 namespace quorvane {
 
 SettingsPage MuteStartupSoundTool::settingsPage() {
@@ -15,12 +17,15 @@ SettingsPage MuteStartupSoundTool::settingsPage() {
                            "you had before."},
          {}});
     section.rows.push_back(
+        {SettingsRow::Note{AdministratorCommand::kWaitingNote}, [this] { return isWaiting(); }});
+    section.rows.push_back(
         {SettingsRow::Warning{lastError_}, [this] { return !lastError_.empty(); }});
-    section.rows.push_back({SettingsRow::Warning{"The startup sound is still muted by Quorvane."},
-                            [this] { return !running_ && hasBackup(); }});
+    const auto stillMuted = [this] { return !running_ && !isWaiting() && hasBackup(); };
+    section.rows.push_back(
+        {SettingsRow::Warning{"The startup sound is still muted by Quorvane."}, stillMuted});
     section.rows.push_back(
         {SettingsRow::Button{"Turn the Startup Sound Back On…", [this] { restore(); }},
-         [this] { return !running_ && hasBackup(); }});
+         stillMuted});
     SettingsPage page;
     page.add(std::move(section));
     return page;

@@ -28,6 +28,9 @@ bool MuteStartupSoundTool::hasBackup() const {
 }
 
 void MuteStartupSoundTool::start() {
+    // Turned on again while the window to put the value back is still up: that request no
+    // longer stands, and what the variable holds now decides.
+    request_.reset();
     running_ = true;
     lastError_.clear();
     const auto current = platform_.firmwareVariables.value(StartupMute::kVariable);
@@ -39,11 +42,14 @@ void MuteStartupSoundTool::start() {
         }
         platform_.preferences.set(kBackupKey, std::move(record));
     }
-    if (current != StartupMute::kMuted &&
-        !runNvram(StartupMute::kMuted, "Quorvane wants to mute your Mac's startup sound.") &&
-        firstChange) {
-        // Nothing was changed, so there is nothing to put back.
-        platform_.preferences.remove(kBackupKey);
+    if (current != StartupMute::kMuted) {
+        requestNvram(StartupMute::kMuted, "Quorvane wants to mute your Mac's startup sound.",
+                     [this, firstChange](bool changed) {
+                         if (!changed && firstChange) {
+                             // Nothing was changed, so there is nothing to put back.
+                             platform_.preferences.remove(kBackupKey);
+                         }
+                     });
     }
     publish();
 }
@@ -54,40 +60,54 @@ void MuteStartupSoundTool::stop() {
     }
     running_ = false;
     lastError_.clear();
+    // A window still asking to mute closes; restoring then looks at what the variable holds,
+    // in case the answer came just before.
+    request_.reset();
     restore();
-}
-
-bool MuteStartupSoundTool::restore() {
-    const auto original = backup();
-    if (!original) {
-        return true;
-    }
-    if (platform_.firmwareVariables.value(StartupMute::kVariable) != *original &&
-        !runNvram(*original, "Quorvane wants to turn your Mac's startup sound back on.")) {
-        // Kept, so the page can offer to try again.
-        publish();
-        return false;
-    }
-    platform_.preferences.remove(kBackupKey);
-    lastError_.clear();
     publish();
-    return true;
 }
 
-bool MuteStartupSoundTool::runNvram(const std::optional<std::string>& value,
-                                    const std::string& reason) {
-    const auto status = AdministratorCommand::run(platform_.childProcesses, StartupMute::kNvram,
-                                                  StartupMute::nvramArguments(value), reason);
-    if (status.succeeded()) {
-        return true;
+void MuteStartupSoundTool::restore() {
+    const auto original = backup();
+    if (!original || request_) {
+        return;
     }
-    lastError_ = !status.launched ? status.launchError
-                 : value == StartupMute::kMuted
-                     ? "The startup sound was not muted: the administrator's password was not "
-                       "given, or the Mac refused the change."
-                     : "The startup sound was not turned back on: the administrator's password "
-                       "was not given, or the Mac refused the change.";
-    return false;
+    if (platform_.firmwareVariables.value(StartupMute::kVariable) == *original) {
+        platform_.preferences.remove(kBackupKey);
+        lastError_.clear();
+        publish();
+        return;
+    }
+    requestNvram(*original, "Quorvane wants to turn your Mac's startup sound back on.",
+                 [this](bool changed) {
+                     // Kept on failure, so the page can offer to try again.
+                     if (changed) {
+                         platform_.preferences.remove(kBackupKey);
+                         lastError_.clear();
+                     }
+                 });
+    publish();
+}
+
+void MuteStartupSoundTool::requestNvram(const std::optional<std::string>& value,
+                                        const std::string& reason,
+                                        std::function<void(bool changed)> done) {
+    const bool muting = value == StartupMute::kMuted;
+    request_ = AdministratorCommand::start(
+        platform_.childProcesses, StartupMute::kNvram, StartupMute::nvramArguments(value), reason,
+        [this, muting, done = std::move(done)](const ChildProcessStatus& status) {
+            request_.reset();
+            if (!status.succeeded()) {
+                lastError_ = !status.launched ? status.launchError
+                             : muting
+                                 ? "The startup sound was not muted: the administrator's password "
+                                   "was not given, or the Mac refused the change."
+                                 : "The startup sound was not turned back on: the administrator's "
+                                   "password was not given, or the Mac refused the change.";
+            }
+            done(status.succeeded());
+            publish();
+        });
 }
 
 }  // namespace quorvane

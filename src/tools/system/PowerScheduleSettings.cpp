@@ -2,6 +2,7 @@
 
 #include <cstdlib>
 
+#include "app/AdministratorCommand.hpp"
 #include "platform/PowerManagement.hpp"
 
 namespace quorvane {
@@ -76,6 +77,9 @@ SettingsPage PowerScheduleTool::settingsPage() {
             {SettingsRow::Note{"Your Mac's schedule now: " +
                                PowerSchedule::describe(platform_.power.copyRepeatingPowerEvents())},
              {}});
+    }
+    if (request_) {
+        end.rows.push_back({SettingsRow::Note{AdministratorCommand::kWaitingNote}, {}});
     }
     if (lastError_) {
         end.rows.push_back({SettingsRow::Warning{*lastError_}, {}});

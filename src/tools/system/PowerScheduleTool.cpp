@@ -57,6 +57,9 @@ void PowerScheduleTool::start() {
     if (running_) {
         return;
     }
+    // Turned on again while the window to put the user's schedule back is still up: that
+    // request no longer stands, and the record still holds their schedule.
+    request_.reset();
     running_ = true;
     lastError_.reset();
     const auto found = platform_.power.copyRepeatingPowerEvents();
@@ -78,6 +81,8 @@ void PowerScheduleTool::stop() {
     }
     running_ = false;
     lastError_.reset();
+    // A window still asking to set the schedule closes.
+    request_.reset();
     // The registry also stops every tool when Quorvane quits, and when the Mac shuts down on
     // this very schedule. The schedule belongs to power management and works without
     // Quorvane, so it is put back only when the user has turned the tool off; a password
@@ -94,37 +99,57 @@ void PowerScheduleTool::tidy() {
 
 void PowerScheduleTool::restore() {
     const auto original = platform_.preferences.string(kOriginalKey);
-    if (!original) {
+    if (!original || request_) {
         return;
     }
     const auto now = PowerSchedule::pmsetArguments(platform_.power.copyRepeatingPowerEvents());
-    if (joined(now) != *original) {
-        const auto status = AdministratorCommand::run(platform_.childProcesses, kPmset,
-                                                      words(*original), kPromptReason);
+    if (joined(now) == *original) {
+        platform_.preferences.remove(kOriginalKey);
+        return;
+    }
+    requestPmset(words(*original), [this](const ChildProcessStatus& status) {
         if (!status.succeeded()) {
             lastError_ = "Putting your earlier schedule back failed: " +
                          childProcessFailure("osascript", status) +
                          ". Quorvane tries again the next time it starts.";
             return;
         }
-    }
-    platform_.preferences.remove(kOriginalKey);
+        platform_.preferences.remove(kOriginalKey);
+    });
+    publish();
 }
 
-bool PowerScheduleTool::apply(const RepeatingPowerEvents& events, const std::string& what) {
-    const auto status = AdministratorCommand::run(
-        platform_.childProcesses, kPmset, PowerSchedule::pmsetArguments(events), kPromptReason);
-    if (!status.succeeded()) {
-        lastError_ = what + " failed: " + childProcessFailure("osascript", status) +
-                     " (or the password was cancelled).";
-        return false;
-    }
-    lastError_.reset();
-    return true;
+void PowerScheduleTool::apply(const RepeatingPowerEvents& events, const std::string& what) {
+    requestPmset(
+        PowerSchedule::pmsetArguments(events), [this, what](const ChildProcessStatus& status) {
+            if (!status.succeeded()) {
+                lastError_ = what + " failed: " + childProcessFailure("osascript", status) +
+                             " (or the password was cancelled).";
+            } else {
+                lastError_.reset();
+            }
+        });
+}
+
+void PowerScheduleTool::requestPmset(const std::vector<std::string>& arguments,
+                                     std::function<void(const ChildProcessStatus&)> done) {
+    request_ = AdministratorCommand::start(
+        platform_.childProcesses, kPmset, arguments, kPromptReason,
+        [this, done = std::move(done)](const ChildProcessStatus& status) {
+            request_.reset();
+            done(status);
+            publish();
+        });
 }
 
 void PowerScheduleTool::setSchedule(const PowerSchedule& schedule) {
     const bool changed = schedule.events() != schedule_.events();
+    if (running_ && changed && request_) {
+        lastError_ =
+            "The password window is still waiting for an answer; change the schedule after it.";
+        publish();
+        return;
+    }
     schedule_ = schedule;
     store();
     if (running_ && changed) {

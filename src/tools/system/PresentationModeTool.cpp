@@ -104,14 +104,23 @@ void PresentationModeTool::showIcons() {
 }
 
 void PresentationModeTool::runShortcut(const std::string& name) {
+    // Whichever Shortcut still runs belongs to the other half of the presentation.
+    shortcut_.reset();
+    runningShortcut_.reset();
     if (name.empty()) {
         return;
     }
-    const auto status = platform_.childProcesses.run(kShortcutsPath, {"run", name});
-    if (!status.succeeded()) {
-        fail("The Shortcut \"" + name +
-             "\" did not run: " + childProcessFailure("shortcuts", status));
-    }
+    runningShortcut_ = name;
+    shortcut_ = platform_.childProcesses.start(
+        kShortcutsPath, {"run", name}, [this, name](const ChildProcessStatus& status) {
+            shortcut_.reset();
+            runningShortcut_.reset();
+            if (!status.succeeded()) {
+                fail("The Shortcut \"" + name +
+                     "\" did not run: " + childProcessFailure("shortcuts", status));
+            }
+            publish();
+        });
 }
 
 void PresentationModeTool::fail(std::string error) {
@@ -156,6 +165,10 @@ SettingsPage PresentationModeTool::settingsPage() {
                                 [this] { return endShortcut_; },
                                 [this](const std::string& name) { setEndShortcut(name); }},
          {}});
+    if (runningShortcut_) {
+        section.rows.push_back(
+            {SettingsRow::Note{"Running the Shortcut \"" + *runningShortcut_ + "\"…"}, {}});
+    }
     if (lastError_) {
         section.rows.push_back({SettingsRow::Warning{*lastError_}, {}});
     }

@@ -7,13 +7,16 @@
 #include "app/PowerAssertion.hpp"
 #include "app/Tool.hpp"
 #include "app/ToolDescriptor.hpp"
+#include "platform/ChildProcessRun.hpp"
 #include "platform/Platform.hpp"
 
 namespace quorvane {
 
 // One switch for presenting: keeps the Mac and its display awake, hides the desktop icons and
 // runs a Shortcut of the user's choice (macOS lets apps change Focus only that way), with a
-// second Shortcut to run when it ends. Everything is undone on stop.
+// second Shortcut to run when it ends. Everything is undone on stop. A Shortcut may take a
+// while, so it runs beside Quorvane and the page shows it until it ends; the start Shortcut
+// still running when the presentation ends is stopped before the end one runs.
 class PresentationModeTool : public Tool {
 public:
     static constexpr const char* kHideIconsKey = "presentationMode.hideDesktopIcons";
@@ -37,6 +40,8 @@ public:
 
     bool isPresenting() const { return running_; }
     const std::optional<std::string>& lastError() const { return lastError_; }
+    // The Shortcut still running, if any.
+    const std::optional<std::string>& runningShortcut() const { return runningShortcut_; }
     void setHidesDesktopIcons(bool on);
     void setStartShortcut(const std::string& name);
     void setEndShortcut(const std::string& name);
@@ -55,6 +60,8 @@ private:
     bool running_ = false;
     std::optional<std::string> lastError_;
     std::unique_ptr<PowerAssertion> assertion_;
+    std::optional<std::string> runningShortcut_;
+    std::unique_ptr<ChildProcessRun> shortcut_;
 };
 
 }  // namespace quorvane

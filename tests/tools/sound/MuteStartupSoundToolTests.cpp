@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "app/AdministratorCommand.hpp"
+#include "cli/SettingsTextRenderer.hpp"
 #include "support/CatalogDescriptor.hpp"
 #include "support/FakePlatform.hpp"
 #include "tools/sound/StartupMute.hpp"
@@ -54,43 +55,83 @@ struct MuteStartupSoundToolTest : ::testing::Test {
 };
 
 TEST_F(MuteStartupSoundToolTest, OffPutsBackExactlyWhatWasThereAndAsksOnlyWhenNeeded) {
+    auto& processes = fakes.childProcesses;
     tool.start();
+    ASSERT_TRUE(processes.finish());
     setVariable(StartupMute::kMuted);  // what the prompt's nvram did
     tool.stop();
+    ASSERT_TRUE(processes.finish());
     EXPECT_EQ(prompts(), (std::vector<std::string>{"'StartupMute=%01'", "'-d' 'StartupMute'"}))
         << "the variable was not set before, so it is removed again";
     EXPECT_FALSE(tool.hasBackup());
 
-    fakes.childProcesses.runs.clear();
+    processes.runs.clear();
     setVariable(std::string("\x00", 1));
     tool.start();
+    ASSERT_TRUE(processes.finish());
     setVariable(StartupMute::kMuted);
     // A relaunch finds it muted and keeps the first record: no prompt.
     MuteStartupSoundTool again(catalogDescriptor("mute-startup-sound"), fakes.platform());
     again.start();
+    EXPECT_FALSE(again.isWaiting());
     again.stop();
+    ASSERT_TRUE(processes.finish());
     EXPECT_EQ(prompts(), (std::vector<std::string>{"'StartupMute=%01'", "'StartupMute=%00'"}));
 }
 
 TEST_F(MuteStartupSoundToolTest, ACancelledPromptChangesNothingAndCanBeRetried) {
-    fakes.childProcesses.results[AdministratorCommand::kOsascript] = ChildProcessStatus::exited(1);
+    auto& processes = fakes.childProcesses;
     tool.start();
+    ASSERT_TRUE(processes.finish(ChildProcessStatus::exited(1)));
     EXPECT_NE(tool.lastError().find("not muted"), std::string::npos);
     EXPECT_FALSE(tool.hasBackup()) << "nothing changed, so nothing to put back";
 
-    fakes.childProcesses.results.clear();
     tool.start();
+    ASSERT_TRUE(processes.finish());
     setVariable(StartupMute::kMuted);
-    fakes.childProcesses.results[AdministratorCommand::kOsascript] = ChildProcessStatus::exited(1);
     tool.stop();
+    ASSERT_TRUE(processes.finish(ChildProcessStatus::exited(1)));
+    EXPECT_NE(tool.lastError().find("not turned back on"), std::string::npos);
     EXPECT_TRUE(tool.hasBackup()) << "still muted, so the record stays";
     const auto rows = tool.settingsPage().sections.front().rows;
     const auto& button = std::get<SettingsRow::Button>(rows.back().kind);
     EXPECT_TRUE(rows.back().isVisible());
 
-    fakes.childProcesses.results.clear();
     button.action();
+    EXPECT_FALSE(rows.back().isVisible()) << "no second window while one is up";
+    button.action();
+    EXPECT_EQ(processes.going(), 1u);
+    ASSERT_TRUE(processes.finish());
     EXPECT_FALSE(tool.hasBackup());
+    EXPECT_TRUE(tool.lastError().empty());
+}
+
+TEST_F(MuteStartupSoundToolTest, WhileTheWindowIsUpThePageWaitsAndSwitchingTheToolClosesIt) {
+    auto& processes = fakes.childProcesses;
+    const auto page = [this] { return SettingsTextRenderer::render(tool.settingsPage()); };
+    tool.start();
+    EXPECT_TRUE(tool.isWaiting());
+    EXPECT_NE(page().find(AdministratorCommand::kWaitingNote), std::string::npos);
+    // Off before the answer: the window closes, and as nvram did not run nothing is put back.
+    tool.stop();
+    EXPECT_TRUE(processes.started.at(0)->cancelled);
+    EXPECT_EQ(processes.going(), 0u);
+    EXPECT_FALSE(tool.hasBackup());
+    EXPECT_EQ(page().find("Waiting"), std::string::npos);
+
+    // The answer came just before the tool was turned off: the change is put back.
+    tool.start();
+    setVariable(StartupMute::kMuted);
+    tool.stop();
+    EXPECT_TRUE(processes.started.at(1)->cancelled);
+    ASSERT_EQ(processes.going(), 1u);
+    EXPECT_EQ(prompts().back(), "'-d' 'StartupMute'");
+
+    // On again while that window is up: it closes, and the sound, still muted, stays so.
+    tool.start();
+    EXPECT_TRUE(processes.started.at(2)->cancelled);
+    EXPECT_EQ(processes.going(), 0u);
+    EXPECT_TRUE(tool.hasBackup());
     EXPECT_TRUE(tool.lastError().empty());
 }
 

@@ -73,15 +73,17 @@ struct PowerScheduleToolTest : ::testing::Test {
 };
 
 TEST_F(PowerScheduleToolTest, SetsTheScheduleAndPutsTheUsersOwnBackWhenTurnedOff) {
+    auto& processes = fakes.childProcesses;
     fakes.power.repeating = theirs;
     PowerScheduleTool tool{descriptor, fakes.platform()};
     PowerSchedule schedule;
     schedule.wake = true;
     tool.setSchedule(schedule);
-    EXPECT_TRUE(fakes.childProcesses.runs.empty()) << "nothing is changed while off";
+    EXPECT_TRUE(processes.runs.empty()) << "nothing is changed while off";
     fakes.preferences.set(ToolRegistry::enabledKey("power-schedule"), true);
     tool.start();
     EXPECT_EQ(pmsetRuns(), (Words{prompt("repeat wakeorpoweron MTWRF 08:00:00")}));
+    ASSERT_TRUE(processes.finish());
     fakes.power.repeating = schedule.events();  // what pmset did
 
     // An edit while on is handed over at once; one that changes nothing asks for nothing.
@@ -91,6 +93,7 @@ TEST_F(PowerScheduleToolTest, SetsTheScheduleAndPutsTheUsersOwnBackWhenTurnedOff
     EXPECT_EQ(pmsetRuns().size(), 2u);
     EXPECT_EQ(pmsetRuns().back(),
               prompt("repeat wakeorpoweron MTWRF 08:00:00 sleep MTWRFSU 23:00:00"));
+    ASSERT_TRUE(processes.finish());
     fakes.power.repeating = schedule.events();
 
     // Quitting keeps the schedule; turning the tool off restores the user's.
@@ -100,35 +103,75 @@ TEST_F(PowerScheduleToolTest, SetsTheScheduleAndPutsTheUsersOwnBackWhenTurnedOff
     fakes.preferences.set(ToolRegistry::enabledKey("power-schedule"), false);
     tool.stop();
     EXPECT_EQ(pmsetRuns().back(), prompt("repeat sleep MTWRFSU 22:00:00"));
+    EXPECT_TRUE(fakes.preferences.string(PowerScheduleTool::kOriginalKey)) << "until answered";
+    ASSERT_TRUE(processes.finish());
     EXPECT_FALSE(fakes.preferences.string(PowerScheduleTool::kOriginalKey));
+    EXPECT_FALSE(tool.lastError());
     PowerScheduleTool reread{descriptor, fakes.platform()};
     EXPECT_EQ(reread.schedule().events(), schedule.events());
 }
 
 TEST_F(PowerScheduleToolTest, ACancelledPasswordIsShownAndTheRestoreIsTriedAgainAtLaunch) {
+    auto& processes = fakes.childProcesses;
     PowerSchedule schedule;
     schedule.stop = PowerSchedule::Stop::restart;
     fakes.preferences.set(PowerScheduleTool::kStopKey, "restart");
-    fakes.childProcesses.results["/usr/bin/osascript"] = ChildProcessStatus::exited(1);
     {
         PowerScheduleTool tool{descriptor, fakes.platform()};
         tool.start();
+        ASSERT_TRUE(processes.finish(ChildProcessStatus::exited(1)));
         ASSERT_TRUE(tool.lastError());
         EXPECT_NE(tool.lastError()->find("osascript ended with status 1"), std::string::npos);
         EXPECT_NE(SettingsTextRenderer::render(tool.settingsPage()).find("No schedule."),
                   std::string::npos);
         fakes.power.repeating = schedule.events();  // say the second try went through
         tool.stop();
+        ASSERT_TRUE(processes.finish(ChildProcessStatus::exited(1)));
         ASSERT_TRUE(tool.lastError());
         EXPECT_NE(tool.lastError()->find("tries again"), std::string::npos);
     }
-    fakes.childProcesses.results.clear();
-    fakes.childProcesses.runs.clear();
+    processes.runs.clear();
     PowerScheduleTool next{descriptor, fakes.platform()};
     next.tidy();
-    EXPECT_EQ(pmsetRuns(), (Words{prompt("repeat cancel")}));
+    next.tidy();
+    EXPECT_EQ(pmsetRuns(), (Words{prompt("repeat cancel")})) << "one window at a time";
+    ASSERT_TRUE(processes.finish());
     next.tidy();
     EXPECT_EQ(pmsetRuns().size(), 1u);
+}
+
+TEST_F(PowerScheduleToolTest, WhileTheWindowIsUpEditsAreRefusedAndTurningOffClosesIt) {
+    auto& processes = fakes.childProcesses;
+    fakes.power.repeating = theirs;
+    fakes.preferences.set(PowerScheduleTool::kWakeKey, true);
+    PowerScheduleTool tool{descriptor, fakes.platform()};
+    tool.start();
+    EXPECT_TRUE(tool.isWaiting());
+    EXPECT_NE(
+        SettingsTextRenderer::render(tool.settingsPage()).find(AdministratorCommand::kWaitingNote),
+        std::string::npos);
+    PowerSchedule edit = tool.schedule();
+    edit.wakeMinutes = 6 * 60;
+    tool.setSchedule(edit);
+    EXPECT_EQ(tool.schedule().wakeMinutes, 8 * 60);
+    EXPECT_NE(tool.lastError().value_or("").find("still waiting"), std::string::npos);
+    EXPECT_EQ(processes.runs.size(), 1u);
+
+    // Off before the answer: the window closes, and the user's schedule, never changed,
+    // needs no second one.
+    tool.stop();
+    EXPECT_TRUE(processes.started.at(0)->cancelled);
+    EXPECT_EQ(processes.going(), 0u);
+    EXPECT_FALSE(tool.isWaiting());
+    EXPECT_FALSE(fakes.preferences.string(PowerScheduleTool::kOriginalKey));
+
+    // Quitting while the window is up closes it as well, and keeps the record for next time.
+    fakes.preferences.set(ToolRegistry::enabledKey("power-schedule"), true);
+    tool.start();
+    tool.stop();
+    EXPECT_TRUE(processes.started.at(1)->cancelled);
+    EXPECT_EQ(processes.going(), 0u);
+    EXPECT_TRUE(fakes.preferences.string(PowerScheduleTool::kOriginalKey));
 }
 
 TEST_F(PowerScheduleToolTest, ATimeThatIsNoTimeIsRefusedOnThePage) {

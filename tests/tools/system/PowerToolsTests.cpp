@@ -154,7 +154,12 @@ TEST_F(PresentationModeTest, KeepsAwakeHidesIconsRunsShortcutsAndPutsItAllBack) 
     tool.start();
     EXPECT_EQ(fakes.power.held.size(), 1u);
     EXPECT_EQ(desktop(), PreferenceValue(false));
+    EXPECT_EQ(tool.runningShortcut(), "Focus On");
+    ASSERT_TRUE(fakes.childProcesses.finish());
+    EXPECT_FALSE(tool.runningShortcut());
     tool.stop();
+    ASSERT_TRUE(fakes.childProcesses.finish());
+    EXPECT_FALSE(tool.lastError());
     EXPECT_TRUE(fakes.power.held.empty());
     EXPECT_EQ(desktop(), PreferenceValue(true)) << "the user's own value, exactly";
     EXPECT_EQ(fakes.childProcesses.runs,
@@ -163,6 +168,32 @@ TEST_F(PresentationModeTest, KeepsAwakeHidesIconsRunsShortcutsAndPutsItAllBack) 
                                                     {"/usr/bin/killall", {"Finder"}},
                                                     {"/usr/bin/shortcuts", {"run", "Focus Off"}}}));
     EXPECT_FALSE(fakes.preferences.boolean(PresentationModeTool::kHidingKey));
+}
+
+TEST_F(PresentationModeTest, AShortcutStillRunningIsShownAndTheOtherHalfStopsIt) {
+    auto& processes = fakes.childProcesses;
+    PresentationModeTool tool{descriptor, fakes.platform()};
+    tool.setStartShortcut("Focus On");
+    tool.setEndShortcut("Focus Off");
+    tool.start();
+    EXPECT_NE(
+        SettingsTextRenderer::render(tool.settingsPage()).find("Running the Shortcut \"Focus On\""),
+        std::string::npos);
+    // Ended before the start Shortcut did: it is stopped, and only the end one runs on.
+    tool.stop();
+    EXPECT_TRUE(processes.started.at(0)->cancelled);
+    EXPECT_EQ(tool.runningShortcut(), "Focus Off");
+    ASSERT_TRUE(processes.finish(ChildProcessStatus::exited(1)));
+    EXPECT_EQ(tool.lastError().value_or(""),
+              "The Shortcut \"Focus Off\" did not run: shortcuts ended with status 1");
+    EXPECT_EQ(processes.going(), 0u);
+
+    tool.start();
+    tool.stop();
+    tool.start();
+    EXPECT_TRUE(processes.started.at(3)->cancelled) << "the end Shortcut, cut short";
+    EXPECT_EQ(processes.going(), 1u);
+    EXPECT_FALSE(tool.lastError()) << "a Shortcut that was stopped did not fail";
 }
 
 TEST_F(PresentationModeTest, ACrashWhilePresentingIsUndoneAtTheNextLaunch) {
@@ -194,11 +225,11 @@ TEST_F(PresentationModeTest, IconsHiddenByTheirOwnToolStayHiddenAfterThePresenta
 }
 
 TEST_F(PresentationModeTest, AShortcutThatFailsIsShown) {
-    fakes.childProcesses.results["/usr/bin/shortcuts"] = ChildProcessStatus::exited(1);
     fakes.power.createStatus = 1;
     PresentationModeTool tool{descriptor, fakes.platform()};
     tool.setStartShortcut("Missing");
     tool.start();
+    ASSERT_TRUE(fakes.childProcesses.finish(ChildProcessStatus::exited(1)));
     ASSERT_TRUE(tool.lastError());
     EXPECT_EQ(*tool.lastError(), "Keeping the Mac awake failed (IOReturn 0x00000001)")
         << "the first failure is the one shown";
