@@ -46,9 +46,7 @@ SettingsSection LaunchAtLogin::section() {
     section.rows.push_back(
         {SettingsRow::Button{kApprovalButton, [this] { openLoginItemsSettings(); }},
          [this] { return needsApproval(); }});
-    if (!lastError_.empty()) {
-        section.rows.push_back({SettingsRow::Warning{lastError_}, {}});
-    }
+    section.rows.push_back(SettingsRow::errorWarning(lastError_));
     return section;
 }
 

@@ -93,7 +93,7 @@ std::string SettingsTextRenderer::renderRow(const SettingsRow& row) {
                 return text + "[" + l.addTitle + "]";
             },
             [](const R::Note& n) { return n.text; },
-            [](const R::Warning& w) { return "! " + w.text; },
+            [](const R::Warning& w) { return "! " + w.current(); },
             [](const R::Button& b) { return "[" + b.title + "]"; },
             [](const R::Custom& c) { return customText(c); },
         },

@@ -113,8 +113,14 @@ struct PageState {
                 return quorvane::makeSecondaryLabel(note.text, _width);
             },
             [&](const Row::Warning& warning) -> NSView* {
-                return quorvane::makeWarning(
-                    quorvane::makeWrappingLabel(warning.text, _width - 24));
+                NSTextField* label = quorvane::makeWrappingLabel(warning.current(), _width - 24);
+                if (warning.read) {
+                    const Row::Warning* shown = &warning;
+                    [_updates addObject:^{
+                      label.stringValue = quorvane::text(shown->read());
+                    }];
+                }
+                return quorvane::makeWarning(label);
             },
             [&](const Row::Button& button) { return [self buttonRow:&button]; },
             [&](const Row::Custom& custom) { return [self customRow:&custom]; },

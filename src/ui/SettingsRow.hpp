@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <variant>
 #include <vector>
@@ -117,6 +118,10 @@ struct SettingsRow {
     };
     struct Warning {
         std::string text;
+        // When set, read again on every refresh instead of `text`: a warning that comes and
+        // goes while the page is open, such as a tool's last error.
+        std::function<std::string()> read = {};
+        std::string current() const { return read ? read() : text; }
     };
     enum class ButtonRole { normal, destructive };
     struct Button {
@@ -136,6 +141,17 @@ struct SettingsRow {
     Kind kind;
     // Nothing shown when this answers false; an empty function means always shown.
     std::function<bool()> isVisible;
+
+    // A tool's last error as a warning, read when drawn: an error that arrives or changes while
+    // the page is open shows at once, and the row is hidden while there is none. `error` must
+    // outlive the page, as every binding's object does.
+    static SettingsRow errorWarning(const std::string& error) {
+        return {Warning{{}, [&error] { return error; }}, [&error] { return !error.empty(); }};
+    }
+    static SettingsRow errorWarning(const std::optional<std::string>& error) {
+        return {Warning{{}, [&error] { return error.value_or(std::string()); }},
+                [&error] { return error.has_value() && !error->empty(); }};
+    }
 };
 
 }  // namespace quorvane

@@ -4,7 +4,9 @@
 
 #include <cstdlib>
 #include <fstream>
+#include <optional>
 #include <sstream>
+#include <string>
 
 namespace quorvane {
 namespace {
@@ -115,6 +117,26 @@ TEST(SettingsTextRenderer, PrintsEveryRowKindAsInTheGoldenFile) {
     std::ostringstream golden;
     golden << in.rdbuf();
     EXPECT_EQ(text, golden.str());
+}
+
+// A page stays open while the tool works: an error that arrives, changes or clears after the page
+// was built must show as it is now, whether the tool keeps it as text or as an optional.
+TEST(SettingsTextRenderer, ErrorWarningsAreReadWhenDrawn) {
+    std::string error;
+    std::optional<std::string> maybeError;
+    SettingsPage page;
+    page.add({"", {SettingsRow::errorWarning(error), SettingsRow::errorWarning(maybeError)}, ""});
+    EXPECT_EQ(SettingsTextRenderer::render(page).find('!'), std::string::npos);
+    error = "first failure";
+    maybeError = "other failure";
+    EXPECT_NE(SettingsTextRenderer::render(page).find("! first failure"), std::string::npos);
+    EXPECT_NE(SettingsTextRenderer::render(page).find("! other failure"), std::string::npos);
+    error = "second failure";
+    maybeError = "";
+    const std::string text = SettingsTextRenderer::render(page);
+    EXPECT_NE(text.find("! second failure"), std::string::npos);
+    EXPECT_EQ(text.find("first"), std::string::npos);
+    EXPECT_EQ(text.find("other"), std::string::npos);
 }
 
 }  // namespace

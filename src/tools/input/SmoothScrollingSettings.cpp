@@ -62,8 +62,7 @@ SettingsPage SmoothScrollingTool::settingsPage() {
              "(for zooming and sideways scrolling). Terminals and games keep the "
              "normal one-step-per-notch wheel."},
          {}});
-    scrolling.rows.push_back(
-        {SettingsRow::Warning{lastError_}, [this] { return !lastError_.empty(); }});
+    scrolling.rows.push_back(SettingsRow::errorWarning(lastError_));
 
     SettingsSection pointer{"", {}, ""};
     pointer.rows.push_back(

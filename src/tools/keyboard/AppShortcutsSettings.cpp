@@ -21,7 +21,7 @@ SettingsPage AppShortcutsTool::settingsPage() {
     for (const auto& entry : appEntries(platform_.workspace, this->apps())) {
         shortcuts.rows.push_back(shortcut(entry.bundleID)->row(entry.name));
     }
-    apps.rows.push_back({SettingsRow::Warning{lastError_}, [this] { return !lastError_.empty(); }});
+    apps.rows.push_back(SettingsRow::errorWarning(lastError_));
     SettingsPage page;
     page.add(std::move(apps));
     if (!shortcuts.rows.empty()) {

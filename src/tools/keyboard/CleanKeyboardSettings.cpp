@@ -22,8 +22,7 @@ SettingsPage CleanKeyboardTool::settingsPage() {
                            "The power button and Touch ID cannot be locked, and the pointer "
                            "still moves."},
          {}});
-    section.rows.push_back(
-        {SettingsRow::Warning{lastError_}, [this] { return !lastError_.empty(); }});
+    section.rows.push_back(SettingsRow::errorWarning(lastError_));
     SettingsPage page;
     page.add(std::move(section));
     return page;

@@ -53,8 +53,7 @@ SettingsPage ClipboardHistoryTool::settingsPage() {
                              "Saved only on this Mac. Turn off to start with an "
                              "empty list each time."},
          {}});
-    general.rows.push_back(
-        {SettingsRow::Warning{lastError_}, [this] { return !lastError_.empty(); }});
+    general.rows.push_back(SettingsRow::errorWarning(lastError_));
 
     SettingsSection excluded{"", {}, ""};
     excluded.rows.push_back(

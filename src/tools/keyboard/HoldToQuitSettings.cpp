@@ -22,8 +22,7 @@ SettingsPage HoldToQuitTool::settingsPage() {
                            "ask to save your work. The app's own Quit menu command is not "
                            "affected."},
          {}});
-    section.rows.push_back(
-        {SettingsRow::Warning{lastError_}, [this] { return !lastError_.empty(); }});
+    section.rows.push_back(SettingsRow::errorWarning(lastError_));
     SettingsPage page;
     page.add(std::move(section));
     return page;

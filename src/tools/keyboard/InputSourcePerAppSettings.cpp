@@ -49,8 +49,7 @@ SettingsPage InputSourcePerAppTool::settingsPage() {
         {SettingsRow::Warning{"The remembered languages could not be read; Quorvane leaves them "
                               "as they are and remembers nothing new."},
          [this] { return storeUnreadable_; }});
-    section.rows.push_back(
-        {SettingsRow::Warning{lastError_}, [this] { return !lastError_.empty(); }});
+    section.rows.push_back(SettingsRow::errorWarning(lastError_));
     SettingsPage page;
     page.add(std::move(section));
     return page;

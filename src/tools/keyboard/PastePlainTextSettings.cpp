@@ -10,8 +10,7 @@ SettingsPage PastePlainTextTool::settingsPage() {
                            "clipboard is put back right after, exactly as it was, unless you "
                            "copy something else in the meantime."},
          {}});
-    section.rows.push_back(
-        {SettingsRow::Warning{lastError_}, [this] { return !lastError_.empty(); }});
+    section.rows.push_back(SettingsRow::errorWarning(lastError_));
     SettingsPage page;
     page.add(std::move(section));
     return page;

@@ -26,7 +26,7 @@ SettingsPage TextSnippetsTool::settingsPage() {
     page.add({"",
               {{std::move(list), {}},
                {SettingsRow::Note{kNote}, {}},
-               {SettingsRow::Warning{lastError_}, [this] { return !lastError_.empty(); }}},
+               SettingsRow::errorWarning(lastError_)},
               ""});
     return page;
 }

@@ -43,9 +43,7 @@ void AppVolumeTool::addMixer(SettingsPage& page, bool compact) {
     const auto& apps = monitor_.apps();
 
     SettingsSection top{"", {}, ""};
-    if (lastError_) {
-        top.rows.push_back({SettingsRow::Warning{*lastError_}, {}});
-    }
+    top.rows.push_back(SettingsRow::errorWarning(lastError_));
     const auto rows = list_.rows(apps, listed);
     if (rows.empty()) {
         top.rows.push_back({SettingsRow::Note{kListedHelp}, {}});

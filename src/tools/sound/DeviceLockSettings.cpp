@@ -40,9 +40,7 @@ SettingsPage DeviceLockTool::settingsPage() {
                  }},
              {}});
     }
-    if (lastError_) {
-        section.rows.push_back({SettingsRow::Warning{*lastError_}, {}});
-    }
+    section.rows.push_back(SettingsRow::errorWarning(lastError_));
     section.rows.push_back(
         {SettingsRow::Note{output ? "When macOS switches the sound to another output, Quorvane "
                                     "switches it back, as long as this device is connected. "

@@ -44,9 +44,7 @@ SettingsPage EqualizerTool::menuPage() {
           {}}},
         ""};
     // Renderers build the page again whenever the tool publishes a change.
-    if (lastError_) {
-        choice.rows.push_back({SettingsRow::Warning{*lastError_}, {}});
-    }
+    choice.rows.push_back(SettingsRow::errorWarning(lastError_));
 
     SettingsSection bands{"Bands", {}, ""};
     for (std::size_t band = 0; band < gains_.size(); ++band) {

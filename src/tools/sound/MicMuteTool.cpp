@@ -245,9 +245,7 @@ SettingsPage MicMuteTool::settingsPage() {
     section.rows.push_back({SettingsRow::Toggle{"Microphone muted", [this] { return isMuted_; },
                                                 [this](bool on) { setMuted(on); }, ""},
                             [this] { return isActive(); }});
-    if (lastError_) {
-        section.rows.push_back({SettingsRow::Warning{*lastError_}, {}});
-    }
+    section.rows.push_back(SettingsRow::errorWarning(lastError_));
     section.rows.push_back(
         {SettingsRow::Note{"Mutes every microphone at once, in every app. Microphones that "
                            "connect while muted are muted too. Turning this off unmutes them."},

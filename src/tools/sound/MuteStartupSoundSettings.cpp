@@ -18,8 +18,7 @@ SettingsPage MuteStartupSoundTool::settingsPage() {
          {}});
     section.rows.push_back(
         {SettingsRow::Note{AdministratorCommand::kWaitingNote}, [this] { return isWaiting(); }});
-    section.rows.push_back(
-        {SettingsRow::Warning{lastError_}, [this] { return !lastError_.empty(); }});
+    section.rows.push_back(SettingsRow::errorWarning(lastError_));
     const auto stillMuted = [this] { return !running_ && !isWaiting() && hasBackup(); };
     section.rows.push_back(
         {SettingsRow::Warning{"The startup sound is still muted by Quorvane."}, stillMuted});

@@ -12,8 +12,7 @@ SettingsPage StopMusicTool::settingsPage() {
          {}});
     section.rows.push_back({SettingsRow::Note{"Stopped so far: " + std::to_string(stoppedCount_)},
                             [this] { return stoppedCount_ > 0; }});
-    section.rows.push_back(
-        {SettingsRow::Warning{lastError_}, [this] { return !lastError_.empty(); }});
+    section.rows.push_back(SettingsRow::errorWarning(lastError_));
     SettingsPage page;
     page.add(std::move(section));
     return page;

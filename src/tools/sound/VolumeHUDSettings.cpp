@@ -11,8 +11,7 @@ SettingsPage VolumeHUDTool::settingsPage() {
                            "(many displays and audio interfaces) keep the system's notice, and "
                            "the brightness keys are not changed."},
          {}});
-    section.rows.push_back(
-        {SettingsRow::Warning{lastError_}, [this] { return !lastError_.empty(); }});
+    section.rows.push_back(SettingsRow::errorWarning(lastError_));
     SettingsPage page;
     page.add(std::move(section));
     return page;

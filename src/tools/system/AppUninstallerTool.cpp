@@ -98,8 +98,7 @@ SettingsPage AppUninstallerTool::settingsPage() {
     section.rows.push_back({SettingsRow::Button{"Move All to the Trash", [this] { moveToTrash(); },
                                                 SettingsRow::ButtonRole::destructive},
                             [this] { return !items_.empty(); }});
-    section.rows.push_back(
-        {SettingsRow::Warning{lastError_}, [this] { return !lastError_.empty(); }});
+    section.rows.push_back(SettingsRow::errorWarning(lastError_));
     SettingsPage page;
     page.add(std::move(section));
     return page;

@@ -80,8 +80,7 @@ SettingsPage ArchivesTool::settingsPage() {
         {SettingsRow::ItemList{
              "Recently extracted", [this] { return recent_; }, {}, "Nothing extracted yet."},
          {}});
-    section.rows.push_back(
-        {SettingsRow::Warning{lastError_}, [this] { return !lastError_.empty(); }});
+    section.rows.push_back(SettingsRow::errorWarning(lastError_));
     SettingsPage page;
     page.add(std::move(section));
     return page;

@@ -28,7 +28,7 @@ SettingsPage ColorPickerTool::settingsPage() {
                            "kept. No screen-recording permission is needed: only the one "
                            "colour you click reaches Quorvane."},
          {}});
-    main.rows.push_back({SettingsRow::Warning{lastError_}, [this] { return !lastError_.empty(); }});
+    main.rows.push_back(SettingsRow::errorWarning(lastError_));
     SettingsPage page;
     page.add(std::move(main));
     return page;

@@ -29,8 +29,7 @@ SettingsPage DefaultAppsTool::settingsPage() {
                            "off gives each kind of file and link back the app it had before you "
                            "changed it here."},
          {}});
-    section.rows.push_back(
-        {SettingsRow::Warning{lastError_}, [this] { return !lastError_.empty(); }});
+    section.rows.push_back(SettingsRow::errorWarning(lastError_));
     SettingsPage page;
     page.add(std::move(section));
     return page;

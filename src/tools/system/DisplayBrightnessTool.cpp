@@ -305,9 +305,7 @@ SettingsPage DisplayBrightnessTool::settingsPage() {
     if (running_ && screens_.empty()) {
         section.rows.push_back({SettingsRow::Note{"No external display is connected."}, {}});
     }
-    if (lastError_) {
-        section.rows.push_back({SettingsRow::Warning{*lastError_}, {}});
-    }
+    section.rows.push_back(SettingsRow::errorWarning(lastError_));
     section.rows.push_back(
         {SettingsRow::Note{"Most monitors let Quorvane change their backlight over the cable "
                            "(DDC/CI, sometimes switched off in the monitor's own menu). Apple "

@@ -15,8 +15,7 @@ SettingsPage FinderCutTool::settingsPage() {
                            "or type in a search field, ⌘X cuts text as usual. Copying something "
                            "else before pasting cancels the cut. Other apps are not affected."},
          {}});
-    section.rows.push_back(
-        {SettingsRow::Warning{lastError_}, [this] { return !lastError_.empty(); }});
+    section.rows.push_back(SettingsRow::errorWarning(lastError_));
     SettingsPage page;
     page.add(std::move(section));
     return page;

@@ -94,8 +94,7 @@ SettingsPage FinderNewFileTool::settingsPage() {
         {SettingsRow::Button{"Open Extension Settings",
                              [this] { platform_.workspace.openURL(kExtensionsSettingsURL); }},
          {}});
-    section.rows.push_back(
-        {SettingsRow::Warning{lastError_}, [this] { return !lastError_.empty(); }});
+    section.rows.push_back(SettingsRow::errorWarning(lastError_));
     SettingsPage page;
     page.add(std::move(section));
     return page;

@@ -35,8 +35,7 @@ SettingsPage FolderIconsTool::settingsPage() {
              "\"green 📸\". Folders that already have an icon of their own are left "
              "alone. Turning this off gives every folder its usual icon back."},
          {}});
-    section.rows.push_back(
-        {SettingsRow::Warning{lastError_}, [this] { return !lastError_.empty(); }});
+    section.rows.push_back(SettingsRow::errorWarning(lastError_));
     SettingsPage page;
     page.add(std::move(section));
     return page;

@@ -78,8 +78,7 @@ SettingsPage FreeUpSpaceTool::settingsPage() {
         {SettingsRow::Button{"Move Listed Items to the Trash", [this] { moveToTrash(); },
                              SettingsRow::ButtonRole::destructive},
          [this] { return SpaceScan::total(items_, false) > 0; }});
-    section.rows.push_back(
-        {SettingsRow::Warning{lastError_}, [this] { return !lastError_.empty(); }});
+    section.rows.push_back(SettingsRow::errorWarning(lastError_));
     SettingsPage page;
     page.add(std::move(section));
     return page;

@@ -115,9 +115,7 @@ SettingsPage KeepAwakeTool::settingsPage() {
                                     : "Keeping your Mac awake until you turn this off."},
              {}});
     }
-    if (lastError_) {
-        section.rows.push_back({SettingsRow::Warning{*lastError_}, {}});
-    }
+    section.rows.push_back(SettingsRow::errorWarning(lastError_));
     section.rows.push_back(
         {SettingsRow::Note{"While on, your Mac does not go to sleep by itself, and with the "
                            "display option the screen stays on too. When the time is up this "

@@ -90,9 +90,7 @@ SettingsPage LockScreenTool::settingsPage() {
     section.rows.push_back(displayOff_.row("Turn display off"));
     section.rows.push_back(
         {SettingsRow::Button{"Lock Now", [this] { perform(Action::lock); }}, {}});
-    if (lastError_) {
-        section.rows.push_back({SettingsRow::Warning{*lastError_}, {}});
-    }
+    section.rows.push_back(SettingsRow::errorWarning(lastError_));
     section.rows.push_back(
         {SettingsRow::Note{"Locks your Mac, puts it to sleep or turns the display off when you "
                            "press a shortcut or the menu's tile. Locking uses a system call that "

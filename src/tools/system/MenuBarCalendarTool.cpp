@@ -215,9 +215,7 @@ void MenuBarCalendarTool::addAccessRows(SettingsSection& section) {
             section.rows.push_back({SettingsRow::Warning{kNoAccess}, {}});
             break;
     }
-    if (lastError_) {
-        section.rows.push_back({SettingsRow::Warning{*lastError_}, {}});
-    }
+    section.rows.push_back(SettingsRow::errorWarning(lastError_));
 }
 
 SettingsPage MenuBarCalendarTool::settingsPage() {

@@ -150,9 +150,7 @@ SettingsPage MenuBarStatsTool::settingsPage() {
     toggle("Memory", kMemoryKey);
     toggle("Network", kNetworkKey);
     toggle("Disk", kDiskKey);
-    if (lastError_) {
-        section.rows.push_back({SettingsRow::Warning{*lastError_}, {}});
-    }
+    section.rows.push_back(SettingsRow::errorWarning(lastError_));
     section.rows.push_back(
         {SettingsRow::Note{"The figures are measured every two seconds while the item is in "
                            "sight, and not at all while it is hidden, so they cost next to "

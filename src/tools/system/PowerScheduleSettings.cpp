@@ -81,9 +81,7 @@ SettingsPage PowerScheduleTool::settingsPage() {
     if (request_) {
         end.rows.push_back({SettingsRow::Note{AdministratorCommand::kWaitingNote}, {}});
     }
-    if (lastError_) {
-        end.rows.push_back({SettingsRow::Warning{*lastError_}, {}});
-    }
+    end.rows.push_back(SettingsRow::errorWarning(lastError_));
     end.rows.push_back(
         {SettingsRow::Note{"macOS itself carries out the schedule, also while Quorvane is not "
                            "running. Changing it needs an administrator, so macOS asks for your "

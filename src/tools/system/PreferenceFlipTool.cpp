@@ -166,9 +166,7 @@ SettingsPage PreferenceFlipTool::settingsPage() {
         {SettingsRow::Note{"Turning it off puts back exactly what you had before, even after "
                            "Quorvane quit unexpectedly."},
          {}});
-    if (!lastError_.empty()) {
-        changes.rows.push_back({SettingsRow::Warning{lastError_}, {}});
-    }
+    changes.rows.push_back(SettingsRow::errorWarning(lastError_));
     page.add(std::move(changes));
     return page;
 }

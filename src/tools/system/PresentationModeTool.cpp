@@ -169,9 +169,7 @@ SettingsPage PresentationModeTool::settingsPage() {
         section.rows.push_back(
             {SettingsRow::Note{"Running the Shortcut \"" + *runningShortcut_ + "\"…"}, {}});
     }
-    if (lastError_) {
-        section.rows.push_back({SettingsRow::Warning{*lastError_}, {}});
-    }
+    section.rows.push_back(SettingsRow::errorWarning(lastError_));
     section.rows.push_back(
         {SettingsRow::Note{"While on, your Mac and its display stay awake and the desktop icons "
                            "are hidden; turning it off puts both back. macOS gives apps no way to "

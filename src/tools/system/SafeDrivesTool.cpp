@@ -179,9 +179,7 @@ SettingsPage SafeDrivesTool::settingsPage() {
         {SettingsRow::ItemList{"Ejected for sleep", [this] { return ejectedNames(); }, nullptr,
                                "No drive is waiting to be mounted again."},
          [this] { return running_; }});
-    if (lastError_) {
-        section.rows.push_back({SettingsRow::Warning{*lastError_}, {}});
-    }
+    section.rows.push_back(SettingsRow::errorWarning(lastError_));
     section.rows.push_back(
         {SettingsRow::Note{"Before your Mac sleeps, Quorvane ejects the external drives "
                            "connected to it, so nothing is lost if one is unplugged or loses "

@@ -44,7 +44,7 @@ SettingsPage ScreenRecorderTool::settingsPage() {
              "no pause; a window is recorded only while it is on screen. Turning the tool off "
              "while recording stops and keeps the recording."},
          {}});
-    main.rows.push_back({SettingsRow::Warning{lastError_}, [this] { return !lastError_.empty(); }});
+    main.rows.push_back(SettingsRow::errorWarning(lastError_));
     SettingsPage page;
     page.add(std::move(main));
     return page;

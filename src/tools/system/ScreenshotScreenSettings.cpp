@@ -19,7 +19,7 @@ SettingsPage ScreenshotScreenTool::settingsPage() {
              "Keyboard Shortcuts › Screenshots, or pick another shortcut above. There is no "
              "floating thumbnail to edit the shot."},
          {}});
-    main.rows.push_back({SettingsRow::Warning{lastError_}, [this] { return !lastError_.empty(); }});
+    main.rows.push_back(SettingsRow::errorWarning(lastError_));
     SettingsPage page;
     page.add(std::move(main));
     return page;

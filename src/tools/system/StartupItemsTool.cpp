@@ -101,7 +101,7 @@ SettingsPage StartupItemsTool::settingsPage() {
              "General settings."},
          {}});
     own.rows.push_back({SettingsRow::Button{"Reload", [this] { reload(); }}, {}});
-    own.rows.push_back({SettingsRow::Warning{lastError_}, [this] { return !lastError_.empty(); }});
+    own.rows.push_back(SettingsRow::errorWarning(lastError_));
     SettingsPage page;
     page.add(std::move(own));
     page.add(std::move(shared));

@@ -22,7 +22,7 @@ SettingsPage TextFromScreenTool::settingsPage() {
              "Handwriting and very small or low-contrast print may not be read correctly, and "
              "tables come out as lines of text, not as columns."},
          {}});
-    main.rows.push_back({SettingsRow::Warning{lastError_}, [this] { return !lastError_.empty(); }});
+    main.rows.push_back(SettingsRow::errorWarning(lastError_));
     SettingsPage page;
     page.add(std::move(main));
     return page;

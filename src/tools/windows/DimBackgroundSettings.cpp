@@ -25,7 +25,7 @@ SettingsPage DimBackgroundTool::settingsPage() {
              "are shaded like any other window. With no window in front (the desktop), nothing "
              "is shaded."},
          {}});
-    main.rows.push_back({SettingsRow::Warning{lastError_}, [this] { return !lastError_.empty(); }});
+    main.rows.push_back(SettingsRow::errorWarning(lastError_));
     SettingsPage page;
     page.add(std::move(main));
     return page;

@@ -17,7 +17,7 @@ SettingsPage DockInstantSwitchTool::settingsPage() {
              "moves after the usual wait and a notice appears here. It does nothing when the "
              "Dock is on the left or right, or with one display."},
          {}});
-    main.rows.push_back({SettingsRow::Warning{lastError_}, [this] { return !lastError_.empty(); }});
+    main.rows.push_back(SettingsRow::errorWarning(lastError_));
     SettingsPage page;
     page.add(std::move(main));
     return page;

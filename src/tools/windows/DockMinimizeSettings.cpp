@@ -15,7 +15,7 @@ SettingsPage DockMinimizeTool::settingsPage() {
              "Apps are hidden (like ⌘H), not minimized into the Dock, so all their windows "
              "come back together. Folders, stacks and the Trash are left to the Dock."},
          {}});
-    main.rows.push_back({SettingsRow::Warning{lastError_}, [this] { return !lastError_.empty(); }});
+    main.rows.push_back(SettingsRow::errorWarning(lastError_));
     SettingsPage page;
     page.add(std::move(main));
     return page;

@@ -20,7 +20,7 @@ SettingsPage DockPreviewsTool::settingsPage() {
              "first; windows on other desktops (Spaces) are listed without a picture. Folders, "
              "stacks and the Trash have no preview."},
          {}});
-    main.rows.push_back({SettingsRow::Warning{lastError_}, [this] { return !lastError_.empty(); }});
+    main.rows.push_back(SettingsRow::errorWarning(lastError_));
     SettingsPage page;
     page.add(std::move(main));
     return page;

@@ -16,7 +16,7 @@ SettingsPage GreenButtonMaximizeTool::settingsPage() {
              "and web-based apps), are left alone. Full screen from the View menu or with "
              "⌃⌘F still works as before."},
          {}});
-    main.rows.push_back({SettingsRow::Warning{lastError_}, [this] { return !lastError_.empty(); }});
+    main.rows.push_back(SettingsRow::errorWarning(lastError_));
     SettingsPage page;
     page.add(std::move(main));
     return page;

@@ -16,7 +16,7 @@ SettingsPage PinWindowTool::settingsPage() {
              "macOS offers apps no public way to raise another app's window above the rest. "
              "Where this Mac refuses, the window is left as it is and the reason shows below."},
          {}});
-    main.rows.push_back({SettingsRow::Warning{lastError_}, [this] { return !lastError_.empty(); }});
+    main.rows.push_back(SettingsRow::errorWarning(lastError_));
     SettingsPage page;
     page.add(std::move(main));
     return page;

@@ -34,7 +34,7 @@ SettingsPage QuitOnLastWindowTool::settingsPage() {
                                                         std::to_string(quitThisSession_);
                                              }},
                          {}});
-    apps.rows.push_back({SettingsRow::Warning{lastError_}, [this] { return !lastError_.empty(); }});
+    apps.rows.push_back(SettingsRow::errorWarning(lastError_));
     SettingsPage page;
     page.add(std::move(main)).add(std::move(apps));
     return page;

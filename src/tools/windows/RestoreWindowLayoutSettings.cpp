@@ -31,7 +31,7 @@ SettingsPage RestoreWindowLayoutTool::settingsPage() {
         {SettingsRow::Button{"Forget Saved Arrangements", [this] { forgetSnapshots(); },
                              SettingsRow::ButtonRole::destructive},
          {}});
-    main.rows.push_back({SettingsRow::Warning{lastError_}, [this] { return !lastError_.empty(); }});
+    main.rows.push_back(SettingsRow::errorWarning(lastError_));
     SettingsPage page;
     page.add(std::move(main));
     return page;

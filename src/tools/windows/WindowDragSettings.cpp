@@ -26,7 +26,7 @@ SettingsPage WindowDragTool::settingsPage() {
               {{std::move(modifiers), {}},
                {std::move(front), {}},
                {std::move(explanation), {}},
-               {SettingsRow::Warning{lastError_}, [this] { return !lastError_.empty(); }}},
+               SettingsRow::errorWarning(lastError_)},
               ""});
     return page;
 }

@@ -48,8 +48,7 @@ SettingsPage WindowLayoutsTool::settingsPage() {
         saved.rows.push_back(
             {SettingsRow::Button{"Restore “" + name + "”", [this, name] { restore(name); }}, {}});
     }
-    saved.rows.push_back(
-        {SettingsRow::Warning{lastError_}, [this] { return !lastError_.empty(); }});
+    saved.rows.push_back(SettingsRow::errorWarning(lastError_));
     SettingsPage page;
     page.add(std::move(save)).add(std::move(saved));
     return page;

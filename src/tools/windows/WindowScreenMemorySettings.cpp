@@ -53,7 +53,7 @@ SettingsPage WindowScreenMemoryTool::settingsPage() {
     main.rows.push_back({SettingsRow::Button{"Forget All", [this] { forgetAll(); },
                                              SettingsRow::ButtonRole::destructive},
                          {}});
-    main.rows.push_back({SettingsRow::Warning{lastError_}, [this] { return !lastError_.empty(); }});
+    main.rows.push_back(SettingsRow::errorWarning(lastError_));
     SettingsPage page;
     page.add(std::move(main));
     return page;

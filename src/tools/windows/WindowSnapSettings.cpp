@@ -34,8 +34,7 @@ SettingsPage WindowSnapTool::settingsPage() {
     }
     shortcuts.rows.push_back(
         {SettingsRow::Button{kRestoreDefaults, [this] { restoreDefaultShortcuts(); }}, {}});
-    shortcuts.rows.push_back(
-        {SettingsRow::Warning{lastError_}, [this] { return !lastError_.empty(); }});
+    shortcuts.rows.push_back(SettingsRow::errorWarning(lastError_));
     SettingsPage page;
     page.add(std::move(shortcuts));
     return page;

@@ -17,7 +17,7 @@ SettingsPage WindowSwitcherTool::settingsPage() {
              "be captured shows a plain symbol instead. Minimized windows and windows on other "
              "desktops (Spaces) are left out."},
          {}});
-    main.rows.push_back({SettingsRow::Warning{lastError_}, [this] { return !lastError_.empty(); }});
+    main.rows.push_back(SettingsRow::errorWarning(lastError_));
     SettingsPage page;
     page.add(std::move(main));
     return page;

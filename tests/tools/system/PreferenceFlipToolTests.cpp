@@ -170,7 +170,7 @@ TEST_F(FlipToolTest, AChangeThatCannotBeSavedIsShownAndLosesNothing) {
     const auto page = tool->settingsPage();
     const auto& rows = page.sections.back().rows;
     ASSERT_TRUE(std::holds_alternative<SettingsRow::Warning>(rows.back().kind));
-    EXPECT_EQ(std::get<SettingsRow::Warning>(rows.back().kind).text, flip.lastError());
+    EXPECT_EQ(std::get<SettingsRow::Warning>(rows.back().kind).current(), flip.lastError());
     EXPECT_TRUE(fakes.childProcesses.runs.empty());
 
     fakes.preferenceDomains.unsavable.clear();
