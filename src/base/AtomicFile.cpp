@@ -1,5 +1,6 @@
 #include "base/AtomicFile.hpp"
 
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -9,6 +10,12 @@
 #include <cstring>
 
 namespace quorvane {
+
+namespace {
+
+[[maybe_unused]] constexpr off_t kKickSize = off_t{1} << 20;
+
+}  // namespace
 
 bool writeFileAtomically(const std::filesystem::path& path,
                          const std::function<bool(const ByteSink& sink)>& produce,
@@ -22,6 +29,7 @@ bool writeFileAtomically(const std::filesystem::path& path,
     }
     bool ok = ::fchmod(fd, 0600) == 0;
     int savedErrno = ok ? 0 : errno;
+    [[maybe_unused]] off_t started = 0;
     const ByteSink sink = [&](std::string_view bytes) {
         while (ok && !bytes.empty()) {
             const ssize_t written = ::write(fd, bytes.data(), bytes.size());
@@ -32,6 +40,15 @@ bool writeFileAtomically(const std::filesystem::path& path,
             savedErrno = ok ? 0 : errno;
             bytes.remove_prefix(ok ? static_cast<std::size_t>(written) : 0);
         }
+#if defined(__linux__)
+        // The flush before the rename would otherwise wait for the whole file at once; asking
+        // the disk for each megabyte as it is written lets it work while the rest is made.
+        const off_t total = ok ? ::lseek(fd, 0, SEEK_CUR) : 0;
+        if (total - started >= kKickSize) {
+            ::sync_file_range(fd, started, total - started, SYNC_FILE_RANGE_WRITE);
+            started = total;
+        }
+#endif
         return ok;
     };
     if (ok && !produce(sink)) {

@@ -6,6 +6,7 @@
 #include <cstring>
 #include <vector>
 
+#include "base/ByteBlock.hpp"
 #include "base/HexDigit.hpp"
 #include "base/JsonWriter.hpp"
 #include "base/Utf8.hpp"
@@ -162,41 +163,86 @@ bool JsonReader::readDigits() {
 bool JsonReader::readString(std::string& out) {
     ++pos_;  // the opening quote
     const char* const data = text_.data();
-    // Escapes only shorten the text, so up to the next quote is room enough, most often exactly.
-    if (const void* quote = std::memchr(data + pos_, '"', text_.size() - pos_)) {
-        out.reserve(out.size() +
-                    static_cast<std::size_t>(static_cast<const char*>(quote) - (data + pos_)));
-    }
-    while (!atEnd()) {
-        const std::size_t run = JsonWriter::plainLength(text_.substr(pos_));
-        out.append(data + pos_, run);
-        pos_ += run;
-        if (atEnd()) {
-            break;
+    const std::size_t size = text_.size();
+    // Written through a pointer into room made beforehand. Escapes only shorten the text, so
+    // the bytes up to the next quote are room enough, with one block more for the sixteen
+    // bytes stored before they are looked at; only an escaped quote there needs more.
+    char* to = out.data() + out.size();
+    std::size_t roomUntil = pos_;
+    const auto settle = [&out, &to] { out.resize(static_cast<std::size_t>(to - out.data())); };
+    while (true) {
+        if (pos_ >= roomUntil) {
+            const std::size_t end = static_cast<std::size_t>(to - out.data());
+            const void* quote = std::memchr(data + pos_, '"', size - pos_);
+            roomUntil = quote != nullptr
+                            ? static_cast<std::size_t>(static_cast<const char*>(quote) - data) + 1
+                            : size;
+            out.resize(end + (roomUntil - pos_) + ByteBlock::kSize);
+            to = out.data() + end;
         }
-        const auto c = static_cast<unsigned char>(peek());
+        if (size - pos_ >= ByteBlock::kSize) {
+            const ByteBlock::Bytes block = ByteBlock::load(data + pos_);
+            std::memcpy(to, &block, sizeof block);
+            const auto special =
+                (block < 0x20) | (block >= 0x80) | (block == '"') | (block == '\\');
+            if (ByteBlock::none(special)) {
+                pos_ += ByteBlock::kSize;
+                to += ByteBlock::kSize;
+                continue;
+            }
+            const std::size_t plain = ByteBlock::firstMarked(special);
+            pos_ += plain;
+            to += plain;
+        } else {
+            const std::size_t run = JsonWriter::plainLength(text_.substr(pos_));
+            std::memcpy(to, data + pos_, run);
+            pos_ += run;
+            to += run;
+            if (atEnd()) {
+                settle();
+                return failAtEnd();
+            }
+        }
+        const auto c = static_cast<unsigned char>(data[pos_]);
         if (c == '"') {
             ++pos_;
+            settle();
             return true;
         }
+        if (c == '\\' && pos_ + 1 < size && data[pos_ + 1] != 'u') {
+            const char escaped = kEscaped[static_cast<unsigned char>(data[pos_ + 1])];
+            if (escaped == 0) {
+                settle();
+                return fail(pos_, "invalid escape");
+            }
+            *to++ = escaped;
+            pos_ += 2;
+            continue;
+        }
         if (c == '\\') {
-            if (!readEscape(out)) {
+            std::string character;
+            if (!readEscape(character)) {
+                settle();
                 return false;
             }
+            std::memcpy(to, character.data(), character.size());
+            to += character.size();
             continue;
         }
         if (c < 0x20) {
+            settle();
             return fail(pos_, "control character in string");
         }
         const std::string_view rest = text_.substr(pos_);
         const std::size_t length = utf8::sequenceLength(rest);
         if (length == 0) {
+            settle();
             return utf8::isTruncatedSequence(rest) ? failAtEnd() : fail(pos_, "invalid UTF-8");
         }
-        out.append(rest.substr(0, length));
+        std::memcpy(to, rest.data(), length);
         pos_ += length;
+        to += length;
     }
-    return failAtEnd();
 }
 
 bool JsonReader::readEscape(std::string& out) {

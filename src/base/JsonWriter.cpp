@@ -1,8 +1,10 @@
 #include "base/JsonWriter.hpp"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <cstddef>
 #include <cstring>
 
 #include "base/ByteBlock.hpp"
@@ -35,72 +37,82 @@ constexpr std::array<char, 128> kEscapeLetter = [] {
 }  // namespace
 
 void JsonWriter::string(std::string& out, std::string_view text) {
-    // Written through a pointer into room made beforehand. Sixteen bytes are stored at a time
-    // before looking at them; when one needs an escape, the output goes on from just before
-    // it, so the bytes stored past it are written over. Text with a line break every few
-    // words then costs little more than copying it.
+    // Written through a pointer into room made beforehand for a stretch of the text at its
+    // largest (six bytes for each), so the loop over the bytes checks nothing but the bytes.
+    // Sixteen bytes are stored at a time before looking at them; when one needs an escape, the
+    // output goes on from just before it, so the bytes stored past it are written over. Text
+    // with a line break every few words then costs little more than copying it.
+    constexpr std::size_t kStretch = 1024;
+    constexpr std::size_t kLargest = 6;
     std::size_t end = out.size();
-    out.resize(end + text.size() + 2 + text.size() / 8 + 2 * ByteBlock::kSize);
-    const auto room = [&](std::size_t needed) {
-        if (out.size() - end < needed) {
-            out.resize(end + needed + (out.size() - end) + text.size() / 4);
+    out.resize(end + 1);
+    out[end++] = '"';
+    const char* at = text.data();
+    const char* const last = text.data() + text.size();
+    while (at < last) {
+        const auto left = static_cast<std::size_t>(last - at);
+        const char* const stop = at + std::min(kStretch, left);
+        // A stretch may run on by part of a block of plain bytes, which grows nothing. Room
+        // for the rest of the text as most text grows comes with it, so that a long text
+        // makes room a few times, not once a stretch.
+        const std::size_t room = kLargest * std::min(kStretch, left) + 2 * ByteBlock::kSize;
+        if (out.size() - end < room) {
+            out.resize(end + room + left + left / 8);
         }
-        return out.data() + end;
-    };
-    *room(1) = '"';
-    ++end;
-    const char* const data = text.data();
-    const std::size_t size = text.size();
-    std::size_t i = 0;
-    while (i < size) {
-        if (i + ByteBlock::kSize <= size) {
-            const ByteBlock::Bytes block = ByteBlock::load(data + i);
-            std::memcpy(room(ByteBlock::kSize), &block, sizeof block);
-            const auto special =
-                (block < 0x20) | (block >= 0x80) | (block == '"') | (block == '\\');
-            if (ByteBlock::none(special)) {
-                end += ByteBlock::kSize;
-                i += ByteBlock::kSize;
+        char* const begin = out.data() + end;
+        char* to = begin;
+        while (at < stop) {
+            if (last - at >= static_cast<std::ptrdiff_t>(ByteBlock::kSize)) {
+                const ByteBlock::Bytes block = ByteBlock::load(at);
+                std::memcpy(to, &block, sizeof block);
+                const auto special =
+                    (block < 0x20) | (block >= 0x80) | (block == '"') | (block == '\\');
+                if (ByteBlock::none(special)) {
+                    at += ByteBlock::kSize;
+                    to += ByteBlock::kSize;
+                    continue;
+                }
+                const std::size_t plain = ByteBlock::firstMarked(special);
+                at += plain;
+                to += plain;
+            } else {
+                const std::size_t plain =
+                    plainLength(std::string_view(at, static_cast<std::size_t>(last - at)));
+                std::memcpy(to, at, plain);
+                at += plain;
+                to += plain;
+                if (at == last) {
+                    break;
+                }
+            }
+            const auto c = static_cast<unsigned char>(*at);
+            if (c >= 0x80) {
+                const std::string_view rest(at, static_cast<std::size_t>(last - at));
+                const std::size_t length = utf8::sequenceLength(rest);
+                const std::string_view character =
+                    length == 0 ? kReplacementCharacter : rest.substr(0, length);
+                std::memcpy(to, character.data(), character.size());
+                to += character.size();
+                at += length == 0 ? 1 : length;
                 continue;
             }
-            const std::size_t plain = ByteBlock::firstMarked(special);
-            end += plain;
-            i += plain;
-        } else {
-            const std::size_t plain = plainLength(text.substr(i));
-            std::memcpy(room(plain), data + i, plain);
-            end += plain;
-            i += plain;
-            if (i == size) {
-                break;
+            const char letter = kEscapeLetter[c];
+            to[0] = '\\';
+            to[1] = letter;
+            to += 2;
+            if (letter == 'u') {
+                to[0] = '0';
+                to[1] = '0';
+                to[2] = kHexDigits[c >> 4];
+                to[3] = kHexDigits[c & 0x0F];
+                to += 4;
             }
+            ++at;
         }
-        const auto c = static_cast<unsigned char>(data[i]);
-        if (c >= 0x80) {
-            const std::size_t length = utf8::sequenceLength(text.substr(i));
-            const std::string_view character =
-                length == 0 ? kReplacementCharacter : text.substr(i, length);
-            std::memcpy(room(character.size()), character.data(), character.size());
-            end += character.size();
-            i += length == 0 ? 1 : length;
-            continue;
-        }
-        const char letter = kEscapeLetter[c];
-        char* const at = room(6);
-        at[0] = '\\';
-        at[1] = letter;
-        end += 2;
-        if (letter == 'u') {
-            at[2] = '0';
-            at[3] = '0';
-            at[4] = kHexDigits[c >> 4];
-            at[5] = kHexDigits[c & 0x0F];
-            end += 4;
-        }
-        ++i;
+        end += static_cast<std::size_t>(to - begin);
     }
-    *room(1) = '"';
     out.resize(end + 1);
+    out[end] = '"';
 }
 
 void JsonWriter::integer(std::string& out, std::int64_t value) {
