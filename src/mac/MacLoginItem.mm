@@ -20,8 +20,7 @@ std::string describe(BOOL succeeded, NSError* error) {
 class MacLoginItem final : public LoginItem {
 public:
     LoginItem::Status status() const override {
-        // The raw values match: not registered 0, enabled 1, requires approval 2, not found 3.
-        return static_cast<Status>(SMAppService.mainAppService.status);
+        return serviceStatus(SMAppService.mainAppService.status);
     }
 
     std::string registerItem() override {
