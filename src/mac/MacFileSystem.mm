@@ -36,7 +36,7 @@ public:
             if (![[NSFileManager defaultManager] trashItemAtURL:url
                                                resultingItemURL:nil
                                                           error:&error]) {
-                return error ? utf8String(error.localizedDescription) : "the system refused";
+                return errorText(error, "the system refused");
             }
             return {};
         }

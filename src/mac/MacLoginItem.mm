@@ -8,12 +8,7 @@ namespace quorvane {
 namespace {
 
 std::string describe(BOOL succeeded, NSError* error) {
-    if (succeeded) {
-        return {};
-    }
-    // unconfirmed: check on a Mac first (NSError's localizedDescription is not in the fact
-    // sheet).
-    return error ? utf8String(error.localizedDescription) : std::string("unknown error");
+    return succeeded ? std::string() : errorText(error, "unknown error");
 }
 
 // The main app service of ServiceManagement: Quorvane itself as a login item.
