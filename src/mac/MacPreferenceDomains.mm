@@ -44,11 +44,9 @@ public:
         if (!domain || !cfKey) {
             return std::nullopt;
         }
+        // No value comes back as NULL, which converts to nothing.
         const auto value = CFRef<CFPropertyListRef>::adopt(CFPreferencesCopyValue(
             cfKey.get(), domain.get(), kCFPreferencesCurrentUser, hostName(host)));
-        if (!value) {
-            return std::nullopt;
-        }
         return fromPropertyList(value.get());
     }
 
