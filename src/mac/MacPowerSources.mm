@@ -33,10 +33,9 @@ public:
         if (!list) {
             return sources;
         }
-        for (CFIndex i = 0; i < CFArrayGetCount(list.get()); ++i) {
+        for (const void* source : arrayValues(list.get())) {
             // A Get: the description belongs to the info blob, which outlives this loop.
-            const CFDictionaryRef found =
-                IOPSGetPowerSourceDescription(info.get(), CFArrayGetValueAtIndex(list.get(), i));
+            const CFDictionaryRef found = IOPSGetPowerSourceDescription(info.get(), source);
             const auto description = fromPropertyList(found);
             if (description && description->dictionary()) {
                 sources.push_back(PowerSourceDescription::read(*description->dictionary()));
