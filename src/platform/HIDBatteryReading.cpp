@@ -1,6 +1,7 @@
 #include "platform/HIDBatteryReading.hpp"
 
 #include <limits>
+#include <utility>
 
 #include "platform/DictionaryFields.hpp"
 
@@ -18,7 +19,7 @@ std::optional<HIDBatteryReading> HIDBatteryReading::read(
     if (serial.empty()) {
         serial = stringField(properties, "DeviceAddress").value_or("");
     }
-    return HIDBatteryReading{stringField(properties, "Product").value_or(""), serial,
+    return HIDBatteryReading{stringField(properties, "Product").value_or(""), std::move(serial),
                              static_cast<int>(*percent)};
 }
 
