@@ -20,7 +20,7 @@ struct PowerSourceDescription {
     static constexpr const char* kInternalBattery = "InternalBattery";
     static constexpr const char* kACPower = "AC Power";
 
-    // The keys above as the description dictionary spells them.
+    // The description's keys above, by the strings IOPSKeys.h gives them.
     static PowerSourceDescription read(const PreferenceValue::Dictionary& description);
 };
 

@@ -12,13 +12,13 @@ namespace {
 std::optional<RepeatingPowerEvents::Event> event(const PreferenceValue::Dictionary& events,
                                                  std::string_view key) {
     const auto* value = field(events, key);
-    const auto* event = value ? value->dictionary() : nullptr;
-    if (event == nullptr) {
+    const auto* fields = value ? value->dictionary() : nullptr;
+    if (fields == nullptr) {
         return std::nullopt;
     }
-    auto type = stringField(*event, "eventtype");
-    const auto minutes = integerField(*event, "time");
-    const auto weekdays = integerField(*event, "weekdays");
+    auto type = stringField(*fields, "eventtype");
+    const auto minutes = integerField(*fields, "time");
+    const auto weekdays = integerField(*fields, "weekdays");
     if (!type || !minutes || !weekdays) {
         return std::nullopt;
     }
