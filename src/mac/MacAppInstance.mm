@@ -49,9 +49,7 @@ public:
                    configuration:configuration
                completionHandler:^(NSRunningApplication* application, NSError* error) {
                  const std::string reason =
-                     application ? std::string()
-                                 : (error ? utf8String(error.localizedDescription)
-                                          : std::string("the system gave no reason"));
+                     application ? std::string() : errorText(error, "the system gave no reason");
                  runSoon(^{
                    Launch::run(launch, reason);
                  });

@@ -24,19 +24,7 @@ public:
     MacChargingHelper(const MacChargingHelper&) = delete;
     MacChargingHelper& operator=(const MacChargingHelper&) = delete;
 
-    ChargingHelper::Status status() override {
-        switch (daemon().status) {
-            case SMAppServiceStatusEnabled:
-                return Status::enabled;
-            case SMAppServiceStatusRequiresApproval:
-                return Status::requiresApproval;
-            case SMAppServiceStatusNotFound:
-                return Status::notFound;
-            case SMAppServiceStatusNotRegistered:
-                break;
-        }
-        return Status::notRegistered;
-    }
+    ChargingHelper::Status status() override { return serviceStatus(daemon().status); }
 
     int registerHelper() override {
         SMAppService* service = daemon();

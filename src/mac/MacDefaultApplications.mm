@@ -12,9 +12,7 @@ namespace quorvane {
 
 namespace {
 
-std::optional<std::string> pathOf(NSURL* url) {
-    return url != nil ? std::optional(utf8String(url.path)) : std::nullopt;
-}
+std::optional<std::string> pathOf(NSURL* url) { return utf8StringIfText(url.path); }
 
 std::vector<std::string> pathsOf(NSArray<NSURL*>* urls) {
     std::vector<std::string> paths;
@@ -35,7 +33,7 @@ NSURL* applicationURL(const std::string& path) {
 void (^answer(DefaultApplications::Completion completion))(NSError* _Nullable) {
     auto shared = std::make_shared<DefaultApplications::Completion>(std::move(completion));
     return ^(NSError* _Nullable error) {
-      std::string message = error != nil ? utf8String(error.localizedDescription) : std::string();
+      std::string message = errorText(error, "");
       dispatch_async(dispatch_get_main_queue(), ^{
         (*shared)(message);
       });

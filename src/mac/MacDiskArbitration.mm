@@ -55,12 +55,17 @@ void answered(DADiskRef, DADissenterRef dissenter, void* context) {
     }
 }
 
+// None without a session, or when the name is not a disk's.
+CFRef<DADiskRef> diskNamed(DASessionRef session, const std::string& bsdName) {
+    return CFRef<DADiskRef>::adopt(
+        session ? DADiskCreateFromBSDName(kCFAllocatorDefault, session, bsdName.c_str()) : nullptr);
+}
+
 // Starts one request on the named disk; the call gets the disk and the context that carries
 // the completion to the answer.
 Subscription request(DASessionRef session, const std::string& bsdName,
                      DiskArbitration::Completion done, void (*call)(DADiskRef, void*)) {
-    const auto disk = CFRef<DADiskRef>::adopt(
-        session ? DADiskCreateFromBSDName(kCFAllocatorDefault, session, bsdName.c_str()) : nullptr);
+    const auto disk = diskNamed(session, bsdName);
     if (!disk) {
         return {};
     }
@@ -108,14 +113,9 @@ public:
     }
 
     std::optional<DiskDescription> describe(const std::string& bsdName) override {
-        if (!session_) {
-            return std::nullopt;
-        }
         // unconfirmed: check on a Mac first (that a detached disk's BSD name gives no disk or
         // no description, rather than an empty one).
-        const auto disk = CFRef<DADiskRef>::adopt(
-            DADiskCreateFromBSDName(kCFAllocatorDefault, session_.get(), bsdName.c_str()));
-        return describeDisk(disk.get());
+        return describeDisk(diskNamed(session_.get(), bsdName).get());
     }
 
     Subscription unmount(const std::string& bsdName, Completion done) override {

@@ -1,8 +1,5 @@
 #include "mac/MacPorts.hpp"
 
-#include <fstream>
-#include <sstream>
-
 #include "mac/CFRef.hpp"
 #include "mac/MacFrameworks.h"
 #include "mac/MacPropertyList.hpp"
@@ -39,22 +36,15 @@ public:
             if (![[NSFileManager defaultManager] trashItemAtURL:url
                                                resultingItemURL:nil
                                                           error:&error]) {
-                return error ? utf8String(error.localizedDescription) : "the system refused";
+                return errorText(error, "the system refused");
             }
             return {};
         }
     }
 
-    std::optional<PreferenceValue> readPropertyList(const std::string& path,
-                                                    std::string& error) override {
-        std::ifstream in(path, std::ios::binary);
-        if (!in) {
-            error = "cannot be opened";
-            return std::nullopt;
-        }
-        std::ostringstream buffer;
-        buffer << in.rdbuf();
-        const std::string bytes = buffer.str();
+protected:
+    std::optional<PreferenceValue> parsePropertyList(const std::string& bytes,
+                                                     std::string& error) override {
         const auto data = CFRef<CFDataRef>::adopt(
             CFDataCreate(kCFAllocatorDefault, reinterpret_cast<const UInt8*>(bytes.data()),
                          static_cast<CFIndex>(bytes.size())));
@@ -69,13 +59,9 @@ public:
             kCFAllocatorDefault, data.get(), kCFPropertyListImmutable, nullptr, &failure));
         if (!list) {
             const auto owned = CFRef<CFErrorRef>::adopt(failure);
-            if (owned) {
-                const auto description =
-                    CFRef<CFStringRef>::adopt(CFErrorCopyDescription(owned.get()));
-                error = description ? utf8String(description.get()) : "damaged";
-            } else {
-                error = "damaged";
-            }
+            const auto description =
+                CFRef<CFStringRef>::adopt(owned ? CFErrorCopyDescription(owned.get()) : nullptr);
+            error = description ? utf8String(description.get()) : "damaged";
             return std::nullopt;
         }
         auto value = fromPropertyList(list.get());

@@ -29,13 +29,10 @@ using FinderMessageHandler =
 
 - (void)deliver:(NSNotification*)notification {
     assert([NSThread isMainThread]);
-    id object = notification.object;
-    if (![object isKindOfClass:[NSString class]]) {
-        return;
-    }
+    const auto message = quorvane::utf8StringIfText(notification.object);
     const auto running = _handler;
-    if (!running->cancelled) {
-        running->handler(quorvane::utf8String(static_cast<NSString*>(object)));
+    if (message && !running->cancelled) {
+        running->handler(*message);
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "mac/CFRef.hpp"
 #include "mac/MacFrameworks.h"
+#include "mac/MacPropertyList.hpp"
 #include "mac/MacStrings.hpp"
 
 namespace quorvane {
@@ -24,19 +25,8 @@ public:
         const auto property = CFRef<CFTypeRef>::adopt(
             IORegistryEntryCreateCFProperty(options, key.get(), kCFAllocatorDefault, kNilOptions));
         IOObjectRelease(options);
-        if (!property) {
-            return std::nullopt;
-        }
-        // Variables are data; a few system ones are strings.
-        if (CFGetTypeID(property.get()) == CFDataGetTypeID()) {
-            const auto data = static_cast<CFDataRef>(property.get());
-            const auto* bytes = reinterpret_cast<const char*>(CFDataGetBytePtr(data));
-            return std::string(bytes, bytes + CFDataGetLength(data));
-        }
-        if (CFGetTypeID(property.get()) == CFStringGetTypeID()) {
-            return utf8String(static_cast<CFStringRef>(property.get()));
-        }
-        return std::nullopt;
+        const auto converted = fromPropertyList(property.get());
+        return converted ? bytes(*converted) : std::nullopt;
     }
 };
 

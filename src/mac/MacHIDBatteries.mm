@@ -1,7 +1,10 @@
 #include "mac/MacPorts.hpp"
 
+#include <utility>
+
 #include "mac/CFRef.hpp"
 #include "mac/MacFrameworks.h"
+#include "mac/MacPropertyList.hpp"
 #include "mac/MacStrings.hpp"
 
 namespace quorvane {
@@ -18,16 +21,17 @@ struct RegistryObject {
     }
 };
 
-CFRef<CFTypeRef> property(io_registry_entry_t entry, CFStringRef key) {
-    return CFRef<CFTypeRef>::adopt(
-        IORegistryEntryCreateCFProperty(entry, key, kCFAllocatorDefault, 0));
-}
-
-std::string text(io_registry_entry_t entry, CFStringRef key) {
-    const auto value = property(entry, key);
-    return value && CFGetTypeID(value.get()) == CFStringGetTypeID()
-               ? utf8String(static_cast<CFStringRef>(value.get()))
-               : std::string();
+// The properties a battery reading is made of, those the entry has.
+PreferenceValue::Dictionary batteryProperties(io_registry_entry_t entry) {
+    PreferenceValue::Dictionary properties;
+    for (const char* name : {"BatteryPercent", "Product", "SerialNumber", "DeviceAddress"}) {
+        const auto value = CFRef<CFTypeRef>::adopt(IORegistryEntryCreateCFProperty(
+            entry, makeCFString(name).get(), kCFAllocatorDefault, 0));
+        if (auto converted = fromPropertyList(value.get())) {
+            properties.emplace(name, std::move(*converted));
+        }
+    }
+    return properties;
 }
 
 // The I/O registry's HID devices that publish their battery.
@@ -48,18 +52,9 @@ public:
             const RegistryObject ownedIterator{iterator};
             while (const io_object_t next = IOIteratorNext(iterator)) {
                 const RegistryObject entry{next};
-                const auto percent = property(entry.object, CFSTR("BatteryPercent"));
-                int value = 0;
-                if (!percent || CFGetTypeID(percent.get()) != CFNumberGetTypeID() ||
-                    !CFNumberGetValue(static_cast<CFNumberRef>(percent.get()), kCFNumberIntType,
-                                      &value)) {
-                    continue;
+                if (auto reading = HIDBatteryReading::read(batteryProperties(entry.object))) {
+                    readings.push_back(std::move(*reading));
                 }
-                auto serial = text(entry.object, CFSTR("SerialNumber"));
-                if (serial.empty()) {
-                    serial = text(entry.object, CFSTR("DeviceAddress"));
-                }
-                readings.push_back({text(entry.object, CFSTR("Product")), serial, value});
             }
         }
         return readings;

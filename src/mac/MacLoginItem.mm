@@ -8,20 +8,14 @@ namespace quorvane {
 namespace {
 
 std::string describe(BOOL succeeded, NSError* error) {
-    if (succeeded) {
-        return {};
-    }
-    // unconfirmed: check on a Mac first (NSError's localizedDescription is not in the fact
-    // sheet).
-    return error ? utf8String(error.localizedDescription) : std::string("unknown error");
+    return succeeded ? std::string() : errorText(error, "unknown error");
 }
 
 // The main app service of ServiceManagement: Quorvane itself as a login item.
 class MacLoginItem final : public LoginItem {
 public:
     LoginItem::Status status() const override {
-        // The raw values match: not registered 0, enabled 1, requires approval 2, not found 3.
-        return static_cast<Status>(SMAppService.mainAppService.status);
+        return serviceStatus(SMAppService.mainAppService.status);
     }
 
     std::string registerItem() override {

@@ -8,20 +8,6 @@
 
 namespace quorvane {
 
-namespace {
-
-std::optional<std::string> objectText(id object) {
-    // Senders in other processes can only attach strings, but in-process posts may attach
-    // anything; anything else reaches the handler as no object.
-    if (![object isKindOfClass:[NSString class]]) {
-        return std::nullopt;
-    }
-    NSString* text = object;
-    return utf8String(text);
-}
-
-}  // namespace
-
 Subscription MacNotificationBus::observe(const std::string& name, Handler handler) {
     @autoreleasepool {
         NSString* notificationName = makeNSString(name);
@@ -35,7 +21,10 @@ Subscription MacNotificationBus::observe(const std::string& name, Handler handle
         // must not be able to switch a tool by name.
         return observeOnMainQueue([NSNotificationCenter defaultCenter], notificationName, nil,
                                   [handler = std::move(handler)](NSNotification* notification) {
-                                      handler(objectText(notification.object));
+                                      // Senders in other processes can only attach strings, but
+                                      // in-process posts may attach anything; anything else
+                                      // reaches the handler as no object.
+                                      handler(utf8StringIfText(notification.object));
                                   });
     }
 }

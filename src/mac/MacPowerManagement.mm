@@ -7,6 +7,7 @@
 
 #include "mac/MacFrameworks.h"
 #include "mac/CFRef.hpp"
+#include "mac/MacPropertyList.hpp"
 #include "mac/MacStrings.hpp"
 
 namespace quorvane {
@@ -22,13 +23,14 @@ struct SystemPowerRegistration {
     io_object_t notifier = 0;
 };
 
+static_assert(PowerManagement::kCanSystemSleep == kIOMessageCanSystemSleep &&
+              PowerManagement::kSystemWillSleep == kIOMessageSystemWillSleep);
+
 void systemPowerMessage(void* refcon, io_service_t, uint32_t messageType, void* argument) {
     assert([NSThread isMainThread]);
     auto* registration = static_cast<SystemPowerRegistration*>(refcon);
     std::function<void()> allow;
-    // Only the two questions about sleep take an answer; answering any other message is
-    // wrong, and leaving these two unanswered holds sleep up for 30 seconds.
-    if (messageType == kIOMessageCanSystemSleep || messageType == kIOMessageSystemWillSleep) {
+    if (PowerManagement::takesAnswer(messageType)) {
         const io_connect_t port = registration->rootPort;
         const auto notificationID = reinterpret_cast<intptr_t>(argument);
         allow = [port, notificationID] { IOAllowPowerChange(port, notificationID); };
@@ -40,34 +42,15 @@ void systemPowerMessage(void* refcon, io_service_t, uint32_t messageType, void* 
     }
 }
 
-std::optional<RepeatingPowerEvents::Event> repeatingEvent(NSDictionary* events, NSString* key) {
-    NSDictionary* event = events[key];
-    if (![event isKindOfClass:[NSDictionary class]]) {
-        return std::nullopt;
-    }
-    NSString* type = event[@kIOPMPowerEventTypeKey];
-    NSNumber* time = event[@kIOPMPowerEventTimeKey];
-    NSNumber* days = event[@kIOPMDaysOfWeekKey];
-    if (![type isKindOfClass:[NSString class]] || ![time isKindOfClass:[NSNumber class]] ||
-        ![days isKindOfClass:[NSNumber class]]) {
-        return std::nullopt;
-    }
-    return RepeatingPowerEvents::Event{utf8String(type), time.intValue, days.intValue};
-}
-
 // IOKit's power-management assertions, sleep and wake messages and repeating power events,
 // and the screen lock of the login framework.
 class MacPowerManagement final : public PowerManagement {
 public:
     int createAssertion(AssertionType type, const std::string& name, AssertionID& id) override {
-        // unconfirmed: check on a Mac first. The type strings as documented for
-        // kIOPMAssertPreventUserIdleSystemSleep and kIOPMAssertPreventUserIdleDisplaySleep.
-        const CFStringRef typeName = type == AssertionType::preventUserIdleDisplaySleep
-                                         ? CFSTR("PreventUserIdleDisplaySleep")
-                                         : CFSTR("PreventUserIdleSystemSleep");
         IOPMAssertionID assertion = 0;
-        const IOReturn status = IOPMAssertionCreateWithName(
-            typeName, kIOPMAssertionLevelOn, (__bridge CFStringRef)makeNSString(name), &assertion);
+        const IOReturn status =
+            IOPMAssertionCreateWithName(makeCFString(typeName(type)).get(), kIOPMAssertionLevelOn,
+                                        (__bridge CFStringRef)makeNSString(name), &assertion);
         if (status == kIOReturnSuccess) {
             id = assertion;
         }
@@ -121,17 +104,12 @@ public:
     }
 
     RepeatingPowerEvents copyRepeatingPowerEvents() override {
-        // unconfirmed: check on a Mac first (the key strings of IOPMKeys.h and the weekday bits,
-        // Monday in bit 0, are as pmset's repeat command reads them).
         const auto copied = CFRef<CFDictionaryRef>::adopt(IOPMCopyRepeatingPowerEvents());
-        if (!copied) {
+        const auto events = fromPropertyList(copied.get());
+        if (!events || !events->dictionary()) {
             return {};
         }
-        NSDictionary* events = (__bridge NSDictionary*)copied.get();
-        return {
-            repeatingEvent(events, @kIOPMRepeatingPowerOnKey),
-                repeatingEvent(events, @kIOPMRepeatingPowerOffKey)
-        };
+        return RepeatingPowerEvents::read(*events->dictionary());
     }
 };
 

@@ -5,28 +5,11 @@
 
 #include "mac/CFRef.hpp"
 #include "mac/MacFrameworks.h"
-#include "mac/MacStrings.hpp"
+#include "mac/MacPropertyList.hpp"
 
 namespace quorvane {
 
 namespace {
-
-std::optional<int> integer(NSDictionary* description, NSString* key) {
-    NSNumber* value = description[key];
-    return [value isKindOfClass:[NSNumber class]] ? std::optional<int>(value.intValue)
-                                                  : std::nullopt;
-}
-
-std::optional<bool> boolean(NSDictionary* description, NSString* key) {
-    NSNumber* value = description[key];
-    return [value isKindOfClass:[NSNumber class]] ? std::optional<bool>(value.boolValue)
-                                                  : std::nullopt;
-}
-
-std::string text(NSDictionary* description, NSString* key) {
-    NSString* value = description[key];
-    return [value isKindOfClass:[NSString class]] ? utf8String(value) : std::string();
-}
 
 void powerSourcesChanged(void* context) {
     assert([NSThread isMainThread]);
@@ -50,23 +33,13 @@ public:
         if (!list) {
             return sources;
         }
-        for (CFIndex i = 0; i < CFArrayGetCount(list.get()); ++i) {
+        for (const void* source : arrayValues(list.get())) {
             // A Get: the description belongs to the info blob, which outlives this loop.
-            const CFDictionaryRef found =
-                IOPSGetPowerSourceDescription(info.get(), CFArrayGetValueAtIndex(list.get(), i));
-            if (!found) {
-                continue;
+            const CFDictionaryRef found = IOPSGetPowerSourceDescription(info.get(), source);
+            const auto description = fromPropertyList(found);
+            if (description && description->dictionary()) {
+                sources.push_back(PowerSourceDescription::read(*description->dictionary()));
             }
-            NSDictionary* description = (__bridge NSDictionary*)found;
-            PowerSourceDescription source;
-            source.name = text(description, @kIOPSNameKey);
-            source.type = text(description, @kIOPSTypeKey);
-            source.powerSourceState = text(description, @kIOPSPowerSourceStateKey);
-            source.isPresent = boolean(description, @kIOPSIsPresentKey).value_or(false);
-            source.isCharging = boolean(description, @kIOPSIsChargingKey);
-            source.currentCapacity = integer(description, @kIOPSCurrentCapacityKey);
-            source.maxCapacity = integer(description, @kIOPSMaxCapacityKey);
-            sources.push_back(std::move(source));
         }
         return sources;
     }

@@ -44,11 +44,9 @@ public:
         if (!domain || !cfKey) {
             return std::nullopt;
         }
+        // No value comes back as NULL, which converts to nothing.
         const auto value = CFRef<CFPropertyListRef>::adopt(CFPreferencesCopyValue(
             cfKey.get(), domain.get(), kCFPreferencesCurrentUser, hostName(host)));
-        if (!value) {
-            return std::nullopt;
-        }
         return fromPropertyList(value.get());
     }
 
@@ -56,10 +54,7 @@ public:
                   const std::string& applicationID, PreferenceHost host) override {
         const auto domain = domainName(applicationID);
         const auto cfKey = makeCFString(key);
-        CFRef<CFPropertyListRef> cfValue;
-        if (value) {
-            cfValue = toPropertyList(*value);
-        }
+        const auto cfValue = value ? toPropertyList(*value) : CFRef<CFPropertyListRef>();
         // NULL removes the key, so a value that cannot be expressed must not turn into a removal.
         if (!domain || !cfKey || (value && !cfValue)) {
             return;

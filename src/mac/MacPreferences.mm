@@ -29,11 +29,9 @@ std::optional<PreferenceValue> MacPreferences::object(std::string_view key) cons
     if (!cfKey) {
         return std::nullopt;
     }
+    // No value comes back as NULL, which converts to nothing.
     const auto value =
         CFRef<CFPropertyListRef>::adopt(CFPreferencesCopyAppValue(cfKey.get(), applicationID()));
-    if (!value) {
-        return std::nullopt;
-    }
     return fromPropertyList(value.get());
 }
 

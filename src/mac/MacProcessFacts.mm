@@ -41,11 +41,7 @@ public:
             NSURL* url =
                 [[NSWorkspace sharedWorkspace] URLForApplicationWithBundleIdentifier:identifier];
             // unconfirmed: check on a Mac first (-[NSURL path] is not in the fact sheet).
-            NSString* path = url.path;
-            if (!path) {
-                return std::nullopt;
-            }
-            return utf8String(path);
+            return utf8StringIfText(url.path);
         }
     }
 
@@ -67,11 +63,7 @@ public:
             // unconfirmed: check on a Mac first (+[NSBundle bundleWithPath:] and -bundleIdentifier
             // are not in the fact sheet; both may give nil).
             NSBundle* bundle = path ? [NSBundle bundleWithPath:path] : nil;
-            NSString* identifier = bundle.bundleIdentifier;
-            if (!identifier) {
-                return std::nullopt;
-            }
-            return utf8String(identifier);
+            return utf8StringIfText(bundle.bundleIdentifier);
         }
     }
 
@@ -88,11 +80,7 @@ public:
             // fact sheet; each may give nil, and the value may be of any property-list class).
             NSURL* url = [NSURL URLWithString:text];
             NSBundle* bundle = url ? [NSBundle bundleWithURL:url] : nil;
-            id value = [bundle objectForInfoDictionaryKey:name];
-            if (![value isKindOfClass:[NSString class]]) {
-                return std::nullopt;
-            }
-            return utf8String(static_cast<NSString*>(value));
+            return utf8StringIfText([bundle objectForInfoDictionaryKey:name]);
         }
     }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -20,5 +21,9 @@ NSString* text(std::string_view utf8);
 // Empty for NULL or nil. A lone UTF-16 surrogate, which UTF-8 cannot carry, comes out as '?'.
 std::string utf8String(CFStringRef string);
 std::string utf8String(NSString* string);
+// Nothing unless the object is a string; nil is none.
+std::optional<std::string> utf8StringIfText(id object);
+// What the error says for the user, or the fallback when there is no error to ask.
+std::string errorText(NSError* error, std::string_view fallback);
 
 }  // namespace quorvane

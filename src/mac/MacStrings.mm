@@ -45,4 +45,17 @@ std::string utf8String(CFStringRef string) {
 
 std::string utf8String(NSString* string) { return utf8String((__bridge CFStringRef)string); }
 
+std::optional<std::string> utf8StringIfText(id object) {
+    if (![object isKindOfClass:[NSString class]]) {
+        return std::nullopt;
+    }
+    return utf8String(static_cast<NSString*>(object));
+}
+
+std::string errorText(NSError* error, std::string_view fallback) {
+    // unconfirmed: check on a Mac first (NSError's localizedDescription is not in the fact
+    // sheet).
+    return error ? utf8String(error.localizedDescription) : std::string(fallback);
+}
+
 }  // namespace quorvane

@@ -77,15 +77,13 @@ public:
         auto shared = std::make_shared<std::function<void()>>(std::move(handler));
         NSNotificationCenter* center = [NSNotificationCenter defaultCenter];
         const auto call = [shared](NSNotification*) { (*shared)(); };
-        auto day = observeOnMainQueue(center, NSCalendarDayChangedNotification, nil, call);
-        auto zone = observeOnMainQueue(center, NSSystemTimeZoneDidChangeNotification, nil, call);
-        auto region = observeOnMainQueue(center, NSCurrentLocaleDidChangeNotification, nil, call);
-        auto clock = observeOnMainQueue(center, NSSystemClockDidChangeNotification, nil, call);
         auto all = std::make_shared<std::vector<Subscription>>();
-        all->push_back(std::move(day));
-        all->push_back(std::move(zone));
-        all->push_back(std::move(region));
-        all->push_back(std::move(clock));
+        for (NSNotificationName name in @[
+                 NSCalendarDayChangedNotification, NSSystemTimeZoneDidChangeNotification,
+                 NSCurrentLocaleDidChangeNotification, NSSystemClockDidChangeNotification
+             ]) {
+            all->push_back(observeOnMainQueue(center, name, nil, call));
+        }
         return Subscription([all] { all->clear(); });
     }
 };

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/ServiceStatus.hpp"
+
 namespace quorvane {
 
 // Quorvane's privileged helper, which alone may switch the battery's charging: a launch daemon
@@ -9,12 +11,8 @@ namespace quorvane {
 class ChargingHelper {
 public:
     // The daemon's registration, as SMAppService reports it.
-    enum class Status {
-        notRegistered,     // SMAppServiceStatusNotRegistered
-        enabled,           // SMAppServiceStatusEnabled
-        requiresApproval,  // SMAppServiceStatusRequiresApproval: waiting in Login Items
-        notFound,          // SMAppServiceStatusNotFound: this build carries no helper
-    };
+    using Status = ServiceStatus;
+
     static constexpr int kUnreachable = -1;  // no answer over the connection
     static constexpr int kRefused = -2;      // the helper answered that it could not do it
     static constexpr int kUnsupported = -3;  // no helper on this system at all

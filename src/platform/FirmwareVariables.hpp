@@ -3,6 +3,8 @@
 #include <optional>
 #include <string>
 
+#include "platform/PreferenceValue.hpp"
+
 namespace quorvane {
 
 // The Mac's firmware variables (NVRAM), read as any user may. Changing them needs an
@@ -14,6 +16,10 @@ public:
 
     // The variable's raw bytes; nothing when it is not set.
     virtual std::optional<std::string> value(const std::string& name) = 0;
+
+    // A variable's bytes as the registry gives them: variables are data, and a few system ones
+    // are strings; nothing for any other kind.
+    static std::optional<std::string> bytes(const PreferenceValue& property);
 };
 
 }  // namespace quorvane

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <optional>
 #include <string>
+
+#include "platform/PreferenceValue.hpp"
 
 namespace quorvane {
 
@@ -10,6 +13,10 @@ struct HIDBatteryReading {
     std::string serialNumber;  // "SerialNumber", or the Bluetooth "DeviceAddress"; may be empty
     int batteryPercent = 0;    // "BatteryPercent"
     friend bool operator==(const HIDBatteryReading&, const HIDBatteryReading&) = default;
+
+    // The device's registry properties by the names above; nothing when it gives no whole
+    // percentage.
+    static std::optional<HIDBatteryReading> read(const PreferenceValue::Dictionary& properties);
 };
 
 }  // namespace quorvane

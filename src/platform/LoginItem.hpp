@@ -2,13 +2,14 @@
 
 #include <string>
 
+#include "platform/ServiceStatus.hpp"
+
 namespace quorvane {
 
 // The application's own login item (on macOS, the main app service).
 class LoginItem {
 public:
-    // The system's raw values.
-    enum class Status { notRegistered = 0, enabled = 1, requiresApproval = 2, notFound = 3 };
+    using Status = ServiceStatus;
 
     virtual ~LoginItem() = default;
 

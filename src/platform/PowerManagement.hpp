@@ -20,6 +20,13 @@ public:
         preventUserIdleDisplaySleep,  // "PreventUserIdleDisplaySleep"
     };
     using AssertionID = std::uint32_t;
+
+    // unconfirmed: check on a Mac first. The type strings as documented for
+    // kIOPMAssertPreventUserIdleSystemSleep and kIOPMAssertPreventUserIdleDisplaySleep.
+    static constexpr const char* typeName(AssertionType type) {
+        return type == AssertionType::preventUserIdleDisplaySleep ? "PreventUserIdleDisplaySleep"
+                                                                  : "PreventUserIdleSystemSleep";
+    }
     // What lockScreen answers when the system offers no way to lock on this version.
     static constexpr int kUnsupported = -1;
 
@@ -36,6 +43,12 @@ public:
     static constexpr std::uint32_t kSystemWillSleep = 0xE0000280;     // kIOMessageSystemWillSleep
     static constexpr std::uint32_t kSystemWillNotSleep = 0xE0000290;  // …SystemWillNotSleep
     static constexpr std::uint32_t kSystemHasPoweredOn = 0xE0000300;  // …SystemHasPoweredOn
+    // Only the two questions about sleep take an answer; answering any other message is wrong,
+    // and leaving these two unanswered holds sleep up for 30 seconds.
+    static constexpr bool takesAnswer(std::uint32_t message) {
+        return message == kCanSystemSleep || message == kSystemWillSleep;
+    }
+
     // The message, and the acknowledgement (IOAllowPowerChange) that the two "sleep" questions
     // need before the system goes on; it is empty for the messages that take none.
     using SystemPowerHandler =

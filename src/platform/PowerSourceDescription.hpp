@@ -3,6 +3,8 @@
 #include <optional>
 #include <string>
 
+#include "platform/PreferenceValue.hpp"
+
 namespace quorvane {
 
 // One power source as IOPSGetPowerSourceDescription describes it; only the keys Quorvane
@@ -17,6 +19,9 @@ struct PowerSourceDescription {
     std::optional<int> maxCapacity;      // kIOPSMaxCapacityKey
     static constexpr const char* kInternalBattery = "InternalBattery";
     static constexpr const char* kACPower = "AC Power";
+
+    // The description's keys above, by the strings IOPSKeys.h gives them.
+    static PowerSourceDescription read(const PreferenceValue::Dictionary& description);
 };
 
 }  // namespace quorvane

@@ -3,6 +3,8 @@
 #include <optional>
 #include <string>
 
+#include "platform/PreferenceValue.hpp"
+
 namespace quorvane {
 
 // The weekly power schedule as power management keeps it (IOPMCopyRepeatingPowerEvents): at
@@ -20,6 +22,9 @@ struct RepeatingPowerEvents {
     };
     std::optional<Event> powerOn;   // kIOPMRepeatingPowerOnKey
     std::optional<Event> powerOff;  // kIOPMRepeatingPowerOffKey
+
+    // IOPMCopyRepeatingPowerEvents' dictionary; an event lacking any of its three keys is none.
+    static RepeatingPowerEvents read(const PreferenceValue::Dictionary& events);
     friend bool operator==(const RepeatingPowerEvents&, const RepeatingPowerEvents&) = default;
 };
 

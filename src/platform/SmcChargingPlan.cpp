@@ -38,4 +38,17 @@ std::optional<std::vector<SmcChargingPlan::Write>> SmcChargingPlan::writes(bool 
     return result;
 }
 
+bool SmcChargingPlan::apply(bool enabled, const KeySize& keySize,
+                            const std::function<bool(const Write&)>& write) {
+    const auto planned = writes(enabled, keySize);
+    if (!planned) {
+        return false;
+    }
+    bool written = true;
+    for (const auto& each : *planned) {
+        written = write(each) && written;
+    }
+    return written;
+}
+
 }  // namespace quorvane

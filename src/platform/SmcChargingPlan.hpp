@@ -26,6 +26,12 @@ struct SmcChargingPlan {
     // The writes that switch charging on or off, all of which are to be made; nothing when this
     // machine has no charging key the plan knows.
     static std::optional<std::vector<Write>> writes(bool enabled, const KeySize& keySize);
+
+    // Makes the plan's writes through `write`, which answers whether the controller took one.
+    // Every write is made even if an earlier one fails, so a half-done change is not left
+    // behind on purpose; false then, and the app asks again. False too when there is no plan.
+    static bool apply(bool enabled, const KeySize& keySize,
+                      const std::function<bool(const Write&)>& write);
 };
 
 }  // namespace quorvane

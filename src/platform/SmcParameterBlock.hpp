@@ -1,8 +1,11 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
+#include <span>
 
 namespace quorvane {
 
@@ -34,6 +37,28 @@ struct SmcParameterBlock {
     std::uint8_t command = 0;  // kCommand…
     std::uint32_t data32 = 0;
     std::array<std::uint8_t, 32> bytes{};  // the value written or read
+
+    // A request for a key's size and type.
+    static SmcParameterBlock keyInfoRequest(std::uint32_t key) {
+        SmcParameterBlock request;
+        request.key = key;
+        request.command = kCommandKeyInfo;
+        return request;
+    }
+
+    // A request to write a key's value; nothing for a value longer than the block holds.
+    static std::optional<SmcParameterBlock> writeRequest(std::uint32_t key,
+                                                         std::span<const std::uint8_t> value) {
+        SmcParameterBlock request;
+        if (value.size() > request.bytes.size()) {
+            return std::nullopt;
+        }
+        request.key = key;
+        request.command = kCommandWriteKey;
+        request.keyDataSize = static_cast<std::uint32_t>(value.size());
+        std::copy(value.begin(), value.end(), request.bytes.begin());
+        return request;
+    }
 };
 // An 80-byte block, the answer at 40, the value at 48: checked on every platform, since the
 // layout follows from the C++ rules alone.

@@ -158,7 +158,12 @@ std::optional<PreferenceValue> PosixFileSystem::readPropertyList(const std::stri
     }
     std::ostringstream text;
     text << in.rdbuf();
-    return XmlPropertyList::parse(text.str(), error);
+    return parsePropertyList(text.str(), error);
+}
+
+std::optional<PreferenceValue> PosixFileSystem::parsePropertyList(const std::string& bytes,
+                                                                  std::string& error) {
+    return XmlPropertyList::parse(bytes, error);
 }
 
 }  // namespace quorvane

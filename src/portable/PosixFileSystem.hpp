@@ -22,6 +22,11 @@ public:
     std::optional<PreferenceValue> readPropertyList(const std::string& path,
                                                     std::string& error) override;
 
+protected:
+    // The file's bytes as a property list; here only the XML form.
+    virtual std::optional<PreferenceValue> parsePropertyList(const std::string& bytes,
+                                                             std::string& error);
+
 private:
     std::string home_;
 };

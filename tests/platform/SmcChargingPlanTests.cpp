@@ -69,5 +69,38 @@ TEST(SmcChargingPlanTests, KeysOfUnexpectedSizesAreNeverWritten) {
     EXPECT_EQ(none.asked, (std::vector<std::uint32_t>{kCHTE, kCH0B}));
 }
 
+// A failed write must not stop the others: the battery would be left half switched.
+TEST(SmcChargingPlanTests, ApplyingMakesEveryWriteAndSaysWhetherAllWereTaken) {
+    Controller smc({{kCH0B, 1}, {kCH0C, 1}});
+    std::vector<Write> made;
+    const auto refuseCH0B = [&made](const Write& write) {
+        made.push_back(write);
+        return write.key != kCH0B;
+    };
+    EXPECT_FALSE(SmcChargingPlan::apply(false, smc.keySize(), refuseCH0B));
+    EXPECT_EQ(made, (std::vector<Write>{{kCH0B, {2}}, {kCH0C, {2}}}));
+
+    EXPECT_TRUE(SmcChargingPlan::apply(true, smc.keySize(), [](const Write&) { return true; }));
+
+    Controller none;
+    made.clear();
+    EXPECT_FALSE(SmcChargingPlan::apply(true, none.keySize(), refuseCH0B));
+    EXPECT_TRUE(made.empty());
+}
+
+TEST(SmcChargingPlanTests, RequestsCarryTheCommandKeyAndValue) {
+    const auto info = SmcParameterBlock::keyInfoRequest(kCHTE);
+    EXPECT_EQ(info.key, kCHTE);
+    EXPECT_EQ(info.command, SmcParameterBlock::kCommandKeyInfo);
+
+    const std::vector<std::uint8_t> value{1, 0, 0, 0};
+    const auto write = SmcParameterBlock::writeRequest(kCHTE, value);
+    ASSERT_TRUE(write);
+    EXPECT_EQ(write->command, SmcParameterBlock::kCommandWriteKey);
+    EXPECT_EQ(write->keyDataSize, 4u);
+    EXPECT_EQ(write->bytes[0], 1);
+    EXPECT_EQ(SmcParameterBlock::writeRequest(kCHTE, std::vector<std::uint8_t>(33)), std::nullopt);
+}
+
 }  // namespace
 }  // namespace quorvane

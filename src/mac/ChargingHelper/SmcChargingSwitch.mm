@@ -5,7 +5,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 
 #include "platform/SmcChargingPlan.hpp"
 #include "platform/SmcParameterBlock.hpp"
@@ -45,24 +44,14 @@ public:
 
     // The key's value size, or 0 when the controller has no such key.
     std::size_t keySize(uint32_t key) const {
-        SmcParameterBlock request;
-        request.key = key;
-        request.command = SmcParameterBlock::kCommandKeyInfo;
         SmcParameterBlock answer;
-        return call(request, answer) ? answer.keyDataSize : 0;
+        return call(SmcParameterBlock::keyInfoRequest(key), answer) ? answer.keyDataSize : 0;
     }
 
     bool write(const SmcChargingPlan::Write& write) const {
-        SmcParameterBlock request;
-        if (write.value.size() > request.bytes.size()) {
-            return false;
-        }
-        request.key = write.key;
-        request.command = SmcParameterBlock::kCommandWriteKey;
-        request.keyDataSize = static_cast<uint32_t>(write.value.size());
-        std::memcpy(request.bytes.data(), write.value.data(), write.value.size());
+        const auto request = SmcParameterBlock::writeRequest(write.key, write.value);
         SmcParameterBlock answer;
-        return call(request, answer);
+        return request && call(*request, answer);
     }
 
 private:
@@ -84,17 +73,9 @@ int SmcChargingSwitch::setChargingEnabled(bool enabled) {
     if (!smc.isOpen()) {
         return kRefused;
     }
-    const auto writes =
-        SmcChargingPlan::writes(enabled, [&smc](uint32_t key) { return smc.keySize(key); });
-    if (!writes) {
-        return kRefused;
-    }
-    bool written = true;
-    // Every write is made even if an earlier one fails, so a half-done change is not left
-    // behind on purpose; the answer says it failed and the app asks again.
-    for (const auto& write : *writes) {
-        written = smc.write(write) && written;
-    }
+    const bool written = SmcChargingPlan::apply(
+        enabled, [&smc](uint32_t key) { return smc.keySize(key); },
+        [&smc](const SmcChargingPlan::Write& write) { return smc.write(write); });
     return written ? kTaken : kRefused;
 }
 

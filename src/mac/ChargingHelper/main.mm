@@ -9,6 +9,7 @@
 
 #include "mac/ChargingHelper/SmcChargingSwitch.hpp"
 #include "mac/ChargingHelperProtocol.h"
+#include "platform/ChargingHelperPeer.hpp"
 
 #if !__has_feature(objc_arc)
 #error "Compile with -fobjc-arc"
@@ -19,19 +20,6 @@
 #ifndef QV_DEVELOPMENT_TEAM
 #define QV_DEVELOPMENT_TEAM ""
 #endif
-
-namespace {
-
-// Written in the code-signing requirement language; the team's identifier is the leaf
-// certificate's organisational unit.
-NSString* peerRequirement() {
-    return
-        [NSString stringWithFormat:@"identifier \"com.quorvane.app\" and anchor apple generic and "
-                                   @"certificate leaf[subject.OU] = \"%s\"",
-                                   QV_DEVELOPMENT_TEAM];
-}
-
-}  // namespace
 
 // Answers the app's requests. Exported objects are called on a queue of each connection's
 // own, so the controller is reached from one serial queue, which also keeps the count of
@@ -55,13 +43,14 @@ NSString* peerRequirement() {
 - (BOOL)listener:(NSXPCListener*)listener
     shouldAcceptNewConnection:(NSXPCConnection*)newConnection {
     (void)listener;
-    if (sizeof(QV_DEVELOPMENT_TEAM) == 1) {
+    const auto requirement = quorvane::chargingHelperPeerRequirement(QV_DEVELOPMENT_TEAM);
+    if (!requirement) {
         return NO;
     }
     // The requirement is checked by the system before any message is delivered; a peer that
     // fails it is cut off. unconfirmed: check on a Mac first (that its connection is then
     // invalidated like any other, which keeps the count of clients right).
-    [newConnection setCodeSigningRequirement:peerRequirement()];
+    [newConnection setCodeSigningRequirement:@(requirement->c_str())];
     newConnection.exportedInterface =
         [NSXPCInterface interfaceWithProtocol:@protocol(QVChargingHelper)];
     newConnection.exportedObject = self;

@@ -43,12 +43,6 @@ quorvane::FinderMenu::Click click() {
     return click;
 }
 
-void choose(quorvane::FinderMenu::Entry entry) {
-    if (const auto request = quorvane::FinderMenu::request(entry, click())) {
-        send(*request);
-    }
-}
-
 }  // namespace
 
 @interface QuorvaneFinderSync : FIFinderSync
@@ -71,38 +65,28 @@ void choose(quorvane::FinderMenu::Entry entry) {
         return nil;
     }
     NSMenu* menu = [[NSMenu alloc] initWithTitle:@""];
-    // Finder copies the items into its own menu and sends each item's action here, so every
-    // entry has an action of its own.
-    const SEL actions[] = {@selector(newTextFile:), @selector(newMarkdownFile:),
-                           @selector(newEmptyFile:), @selector(copyPath:)};
-    static_assert(std::size(actions) == std::size(quorvane::FinderMenu::kEntries));
-    for (std::size_t index = 0; index < std::size(actions); ++index) {
-        [menu addItemWithTitle:quorvane::makeNSString(quorvane::FinderMenu::title(
-                                   quorvane::FinderMenu::kEntries[index]))
-                        action:actions[index]
-                 keyEquivalent:@""];
+    // Finder copies the items into its own menu and sends their action here with its copy as
+    // the sender, which keeps the tag though not a represented object: the tag names the entry.
+    // unconfirmed: check on a Mac first (shipped Finder extensions rely on the tag; Apple's
+    // reference does not say).
+    for (std::size_t index = 0; index < std::size(quorvane::FinderMenu::kEntries); ++index) {
+        NSMenuItem* item = [[NSMenuItem alloc]
+            initWithTitle:quorvane::makeNSString(
+                              quorvane::FinderMenu::title(quorvane::FinderMenu::kEntries[index]))
+                   action:@selector(chooseEntry:)
+            keyEquivalent:@""];
+        item.tag = static_cast<NSInteger>(index);
+        [menu addItem:item];
     }
     return menu;
 }
 
-- (IBAction)newTextFile:(id)sender {
-    (void)sender;
-    choose(quorvane::FinderMenu::Entry::newTextFile);
-}
-
-- (IBAction)newMarkdownFile:(id)sender {
-    (void)sender;
-    choose(quorvane::FinderMenu::Entry::newMarkdownFile);
-}
-
-- (IBAction)newEmptyFile:(id)sender {
-    (void)sender;
-    choose(quorvane::FinderMenu::Entry::newEmptyFile);
-}
-
-- (IBAction)copyPath:(id)sender {
-    (void)sender;
-    choose(quorvane::FinderMenu::Entry::copyPath);
+- (IBAction)chooseEntry:(NSMenuItem*)sender {
+    const auto entry = quorvane::FinderMenu::entryAt(sender.tag);
+    if (const auto request =
+            entry ? quorvane::FinderMenu::request(*entry, click()) : std::nullopt) {
+        send(*request);
+    }
 }
 
 @end

@@ -1,6 +1,7 @@
 #include "tools/system/FinderMenu.hpp"
 
 #include <filesystem>
+#include <iterator>
 
 namespace quorvane {
 
@@ -21,6 +22,13 @@ std::string kindOf(FinderMenu::Entry entry) {
 }
 
 }  // namespace
+
+std::optional<FinderMenu::Entry> FinderMenu::entryAt(long index) {
+    if (index < 0 || index >= static_cast<long>(std::size(kEntries))) {
+        return std::nullopt;
+    }
+    return kEntries[index];
+}
 
 std::string FinderMenu::title(Entry entry) {
     switch (entry) {

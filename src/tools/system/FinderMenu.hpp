@@ -25,6 +25,8 @@ struct FinderMenu {
     };
 
     static std::string title(Entry entry);
+    // The entry at that place in kEntries, as a menu item's tag names it; nothing for any other.
+    static std::optional<Entry> entryAt(long index);
     // Nothing when the click names no place to act on.
     static std::optional<FinderRequest> request(Entry entry, const Click& click);
 };

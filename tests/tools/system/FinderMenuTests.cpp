@@ -49,5 +49,12 @@ TEST(FinderMenuTests, AClickThatNamesNothingSendsNothing) {
     }
 }
 
+TEST(FinderMenuTests, AMenuItemsTagNamesTheEntryAtThatPlace) {
+    EXPECT_EQ(FinderMenu::entryAt(0), Entry::newTextFile);
+    EXPECT_EQ(FinderMenu::entryAt(3), Entry::copyPath);
+    EXPECT_EQ(FinderMenu::entryAt(4), std::nullopt);
+    EXPECT_EQ(FinderMenu::entryAt(-1), std::nullopt);
+}
+
 }  // namespace
 }  // namespace quorvane
