@@ -7,6 +7,8 @@
 #include "mac/CancellableHandler.hpp"
 #include "mac/MacFrameworks.h"
 #include "mac/MacStrings.hpp"
+#include "platform/AreaChoice.hpp"
+#include "platform/ShareableContent.hpp"
 
 // Written from Apple's ScreenCaptureKit reference; none of it is in the fact sheet, so every
 // call below is unconfirmed: check on a Mac first. In particular:
@@ -84,13 +86,9 @@ ScreenCapture::Content convert(SCShareableContent* content) {
         listed.frame = rectFrom(window.frame);
         listed.layer = static_cast<int>(window.windowLayer);
         listed.onScreen = window.onScreen;
-        for (const auto& display : result.displays) {
-            if (display.frame.contains({listed.frame.midX(), listed.frame.midY()})) {
-                listed.scale = display.scale;
-            }
-        }
         result.windows.push_back(std::move(listed));
     }
+    assignWindowScales(result);
     return result;
 }
 
@@ -170,9 +168,7 @@ __attribute__((availability(macos, introduced = 15.0)))
     }
     [_stream startCaptureWithCompletionHandler:^(NSError* startError) {
       if (startError != nil) {
-          dispatch_async(dispatch_get_main_queue(), ^{
-            [self report:describe(startError)];
-          });
+          [self reportLater:startError];
       }
     }];
 }
@@ -181,9 +177,7 @@ __attribute__((availability(macos, introduced = 15.0)))
     _stopRequested = YES;
     [_stream stopCaptureWithCompletionHandler:^(NSError* stopError) {
       if (stopError != nil) {
-          dispatch_async(dispatch_get_main_queue(), ^{
-            [self report:describe(stopError)];
-          });
+          [self reportLater:stopError];
       }
     }];
 }
@@ -204,20 +198,22 @@ __attribute__((availability(macos, introduced = 15.0)))
     _keepAlive = nil;
 }
 
-- (void)stream:(SCStream*)stream didStopWithError:(NSError*)error {
-    (void)stream;
+// From any queue.
+- (void)reportLater:(NSError*)error {
     const std::string text = describe(error);
     dispatch_async(dispatch_get_main_queue(), ^{
       [self report:text];
     });
 }
 
+- (void)stream:(SCStream*)stream didStopWithError:(NSError*)error {
+    (void)stream;
+    [self reportLater:error];
+}
+
 - (void)recordingOutput:(SCRecordingOutput*)recordingOutput didFailWithError:(NSError*)error {
     (void)recordingOutput;
-    const std::string text = describe(error);
-    dispatch_async(dispatch_get_main_queue(), ^{
-      [self report:text];
-    });
+    [self reportLater:error];
 }
 
 - (void)recordingOutputDidFinishRecording:(SCRecordingOutput*)recordingOutput {
@@ -434,32 +430,19 @@ public:
     }
 
     Subscription selectArea(AreaHandler handler) override {
-        auto shared = std::make_shared<CancellableHandler<AreaHandler>>(std::move(handler));
         NSMutableArray<NSWindow*>* windows = [NSMutableArray array];
         NSScreen* primary = NSScreen.screens.firstObject;
-        const CGFloat primaryHeight = primary.frame.size.height;
-        __block BOOL done = NO;
+        const auto choice = std::make_shared<AreaChoice>(
+            std::move(handler),
+            [windows] {
+                for (NSWindow* window in windows) {
+                    [window orderOut:nil];
+                }
+                [windows removeAllObjects];
+            },
+            primary.frame.size.height);
         void (^finish)(NSRect, BOOL) = ^(NSRect screenRect, BOOL chosen) {
-          if (done) {
-              return;
-          }
-          done = YES;
-          for (NSWindow* window in windows) {
-              [window orderOut:nil];
-          }
-          [windows removeAllObjects];
-          if (shared->cancelled) {
-              return;
-          }
-          if (!chosen) {
-              shared->handler(std::nullopt);
-              return;
-          }
-          // Screen coordinates grow upward from the main display's bottom; accessibility ones
-          // downward from its top.
-          shared->handler(Rect(screenRect.origin.x,
-                               primaryHeight - screenRect.origin.y - screenRect.size.height,
-                               screenRect.size.width, screenRect.size.height));
+          choice->finish(chosen ? std::optional(rectFrom(screenRect)) : std::nullopt);
         };
         for (NSScreen* screen in NSScreen.screens) {
             QVAreaWindow* window =
@@ -480,10 +463,7 @@ public:
         }
         [NSApp activate];
         // Turning the tool off while the crosshair is up takes the crosshair away too.
-        return Subscription([shared, finish] {
-            shared->cancelled = true;
-            finish(NSZeroRect, NO);
-        });
+        return Subscription([choice] { choice->cancel(); });
     }
 };
 
