@@ -156,15 +156,6 @@ public:
         return AXObserverAddNotification(observer_.get(), ref, notification.get(), this);
     }
 
-    std::int32_t removeNotification(const Element& element, std::string_view name) override {
-        const AXUIElementRef ref = refOf(element);
-        const CFRef<CFStringRef> notification = makeCFString(name);
-        if (!ref || !notification) {
-            return kAXErrorIllegalArgument;
-        }
-        return AXObserverRemoveNotification(observer_.get(), ref, notification.get());
-    }
-
     void schedule() override {
         if (scheduled_) {
             return;

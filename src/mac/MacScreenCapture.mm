@@ -4,6 +4,7 @@
 
 #include "input/KeyCombo.hpp"
 #include "mac/CFRef.hpp"
+#include "mac/CancellableAction.hpp"
 #include "mac/CancellableHandler.hpp"
 #include "mac/MacFrameworks.h"
 #include "mac/MacStrings.hpp"
@@ -57,6 +58,26 @@ SCContentFilter* makeFilter(SCShareableContent* content, const ScreenCapture::Ta
         }
     }
     return nil;
+}
+
+// The filter for a target from freshly listed content, or why there is none; `found` runs on
+// whatever queue ScreenCaptureKit answers on. Desktop and off-screen windows are listed only
+// when `everyWindow` is set.
+void findFilter(const ScreenCapture::Target& target, BOOL everyWindow,
+                void (^found)(SCContentFilter* filter, std::string failure)) {
+    const ScreenCapture::Target wanted = target;
+    [SCShareableContent
+        getShareableContentExcludingDesktopWindows:!everyWindow
+                               onScreenWindowsOnly:!everyWindow
+                                 completionHandler:^(SCShareableContent* content, NSError* error) {
+                                   if (content == nil) {
+                                       found(nil, describe(error));
+                                       return;
+                                   }
+                                   SCContentFilter* filter = makeFilter(content, wanted);
+                                   found(filter, filter != nil ? std::string()
+                                                               : "the display or window is gone");
+                                 }];
 }
 
 SCStreamConfiguration* makeConfiguration(const ScreenCapture::Target& target, int width,
@@ -128,26 +149,22 @@ __attribute__((availability(macos, introduced = 15.0)))
 
 - (void)start:(const ScreenCapture::RecordingRequest&)request {
     const ScreenCapture::RecordingRequest wanted = request;
-    [SCShareableContent
-        getShareableContentExcludingDesktopWindows:YES
-                               onScreenWindowsOnly:YES
-                                 completionHandler:^(SCShareableContent* content, NSError* error) {
-                                   dispatch_async(dispatch_get_main_queue(), ^{
-                                     [self begin:wanted content:content error:error];
-                                   });
-                                 }];
+    findFilter(request.target, NO, ^(SCContentFilter* filter, std::string failure) {
+      dispatch_async(dispatch_get_main_queue(), ^{
+        [self begin:wanted filter:filter failure:failure];
+      });
+    });
 }
 
 - (void)begin:(const ScreenCapture::RecordingRequest&)request
-      content:(SCShareableContent*)content
-        error:(NSError*)error {
+       filter:(SCContentFilter*)filter
+      failure:(const std::string&)failure {
     if (_stopRequested) {
         [self report:"stopped before it began"];
         return;
     }
-    SCContentFilter* filter = content != nil ? makeFilter(content, request.target) : nil;
     if (filter == nil) {
-        [self report:content != nil ? "the display or window is gone" : describe(error)];
+        [self report:failure];
         return;
     }
     SCStreamConfiguration* configuration =
@@ -323,7 +340,8 @@ private:
 class MacScreenCapture final : public ScreenCapture {
 public:
     Subscription shareableContent(ContentHandler handler) override {
-        auto shared = std::make_shared<CancellableHandler<ContentHandler>>(std::move(handler));
+        using Callback = CancellableAction<std::optional<Content>, const std::string&>;
+        auto shared = std::make_shared<Callback>(std::move(handler));
         [SCShareableContent
             getShareableContentExcludingDesktopWindows:YES
                                    onScreenWindowsOnly:YES
@@ -336,9 +354,7 @@ public:
                                        const std::string failure =
                                            content != nil ? std::string() : describe(error);
                                        dispatch_async(dispatch_get_main_queue(), ^{
-                                         if (!shared->cancelled) {
-                                             shared->handler(listed, failure);
-                                         }
+                                         Callback::run(shared, listed, failure);
                                        });
                                      }];
         return Subscription([shared] { shared->cancelled = true; });
@@ -346,54 +362,38 @@ public:
 
     Subscription captureImage(const Target& target, int pixelWidth, int pixelHeight,
                               ImageHandler handler) override {
-        auto shared = std::make_shared<CancellableHandler<ImageHandler>>(std::move(handler));
-        const Target wanted = target;
+        using Callback = CancellableAction<std::optional<Thumbnail>, const std::string&>;
+        auto shared = std::make_shared<Callback>(std::move(handler));
         const auto deliver = ^(std::optional<Thumbnail> image, std::string failure) {
           dispatch_async(dispatch_get_main_queue(), ^{
-            if (!shared->cancelled) {
-                shared->handler(image, failure);
-            }
+            Callback::run(shared, image, failure);
           });
         };
-        [SCShareableContent
-            getShareableContentExcludingDesktopWindows:NO
-                                   onScreenWindowsOnly:NO
-                                     completionHandler:^(SCShareableContent* content,
-                                                         NSError* error) {
-                                       SCContentFilter* filter =
-                                           content != nil ? makeFilter(content, wanted) : nil;
-                                       if (filter == nil) {
-                                           deliver(std::nullopt,
-                                                   content != nil ? "the display or window is gone"
-                                                                  : describe(error));
-                                           return;
-                                       }
-                                       [SCScreenshotManager
-                                           captureImageWithFilter:filter
-                                                    configuration:makeConfiguration(wanted,
-                                                                                    pixelWidth,
-                                                                                    pixelHeight)
-                                                completionHandler:^(CGImageRef image,
-                                                                    NSError* failure) {
-                                                  if (image == nullptr) {
-                                                      deliver(std::nullopt, describe(failure));
-                                                      return;
-                                                  }
-                                                  // The handler's reference lasts only as long
-                                                  // as the call; the thumbnail keeps its own.
-                                                  CFRetain(image);
-                                                  Thumbnail thumbnail;
-                                                  thumbnail.width =
-                                                      static_cast<int>(CGImageGetWidth(image));
-                                                  thumbnail.height =
-                                                      static_cast<int>(CGImageGetHeight(image));
-                                                  thumbnail.image = std::shared_ptr<const void>(
-                                                      image, [](const void* held) {
-                                                          CFRelease(static_cast<CFTypeRef>(held));
-                                                      });
-                                                  deliver(thumbnail, {});
-                                                }];
-                                     }];
+        SCStreamConfiguration* configuration = makeConfiguration(target, pixelWidth, pixelHeight);
+        findFilter(target, YES, ^(SCContentFilter* filter, std::string failure) {
+          if (filter == nil) {
+              deliver(std::nullopt, failure);
+              return;
+          }
+          [SCScreenshotManager
+              captureImageWithFilter:filter
+                       configuration:configuration
+                   completionHandler:^(CGImageRef image, NSError* error) {
+                     if (image == nullptr) {
+                         deliver(std::nullopt, describe(error));
+                         return;
+                     }
+                     // The handler's reference lasts only as long as the call; the thumbnail
+                     // keeps its own.
+                     CFRetain(image);
+                     Thumbnail thumbnail;
+                     thumbnail.width = static_cast<int>(CGImageGetWidth(image));
+                     thumbnail.height = static_cast<int>(CGImageGetHeight(image));
+                     thumbnail.image = std::shared_ptr<const void>(
+                         image, [](const void* held) { CFRelease(static_cast<CFTypeRef>(held)); });
+                     deliver(thumbnail, {});
+                   }];
+        });
         return Subscription([shared] { shared->cancelled = true; });
     }
 
