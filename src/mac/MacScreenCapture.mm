@@ -5,7 +5,6 @@
 #include "input/KeyCombo.hpp"
 #include "mac/CFRef.hpp"
 #include "mac/CancellableAction.hpp"
-#include "mac/CancellableHandler.hpp"
 #include "mac/MacFrameworks.h"
 #include "mac/MacStrings.hpp"
 #include "platform/AreaChoice.hpp"
@@ -23,10 +22,11 @@
 
 namespace {
 
-using quorvane::CancellableHandler;
+using quorvane::CancellableAction;
 using quorvane::Rect;
 using quorvane::ScreenCapture;
 using quorvane::Thumbnail;
+using FinishCallback = CancellableAction<const std::string&>;
 
 Rect rectFrom(CGRect rect) {
     return {rect.origin.x, rect.origin.y, rect.size.width, rect.size.height};
@@ -124,13 +124,12 @@ ScreenCapture::Content convert(SCShareableContent* content) {
 
 __attribute__((availability(macos, introduced = 15.0)))
 @interface QVRecordingSession : NSObject<SCStreamDelegate, SCRecordingOutputDelegate, QVStoppable>
-- (instancetype)initWithHandler:
-    (std::shared_ptr<CancellableHandler<ScreenCapture::FinishHandler>>)handler;
+- (instancetype)initWithHandler:(std::shared_ptr<FinishCallback>)handler;
 - (void)start:(const ScreenCapture::RecordingRequest&)request;
 @end
 
 @implementation QVRecordingSession {
-    std::shared_ptr<CancellableHandler<ScreenCapture::FinishHandler>> _handler;
+    std::shared_ptr<FinishCallback> _handler;
     SCStream* _stream;
     SCRecordingOutput* _output;
     QVRecordingSession* _keepAlive;
@@ -138,8 +137,7 @@ __attribute__((availability(macos, introduced = 15.0)))
     BOOL _reported;
 }
 
-- (instancetype)initWithHandler:
-    (std::shared_ptr<CancellableHandler<ScreenCapture::FinishHandler>>)handler {
+- (instancetype)initWithHandler:(std::shared_ptr<FinishCallback>)handler {
     if ((self = [super init])) {
         _handler = std::move(handler);
         _keepAlive = self;
@@ -209,9 +207,7 @@ __attribute__((availability(macos, introduced = 15.0)))
         return;
     }
     _reported = YES;
-    if (!_handler->cancelled) {
-        _handler->handler(error);
-    }
+    FinishCallback::run(_handler, error);
     _keepAlive = nil;
 }
 
@@ -401,7 +397,7 @@ public:
                                                              FinishHandler finished,
                                                              std::string& error) override {
         if (@available(macOS 15.0, *)) {
-            auto shared = std::make_shared<CancellableHandler<FinishHandler>>(std::move(finished));
+            auto shared = std::make_shared<FinishCallback>(std::move(finished));
             QVRecordingSession* session = [[QVRecordingSession alloc] initWithHandler:shared];
             [session start:request];
             return std::make_unique<MacRecording>(session);
