@@ -102,8 +102,9 @@ ScreenCapture::Content convert(SCShareableContent* content) {
     for (SCWindow* window in content.windows) {
         ScreenCapture::Window listed;
         listed.windowID = window.windowID;
-        listed.pid = window.owningApplication != nil ? window.owningApplication.processID : 0;
-        listed.title = window.title != nil ? quorvane::utf8String(window.title) : std::string();
+        // A window without an owner answers 0 and one without a title empty text.
+        listed.pid = window.owningApplication.processID;
+        listed.title = quorvane::utf8String(window.title);
         listed.frame = rectFrom(window.frame);
         listed.layer = static_cast<int>(window.windowLayer);
         listed.onScreen = window.onScreen;
