@@ -2,11 +2,10 @@
 
 #include <dlfcn.h>
 
-#include <algorithm>
-
 #include "mac/CFRef.hpp"
 #include "mac/MacFrameworks.h"
 #include "mac/MacStrings.hpp"
+#include "platform/DdcServiceChoice.hpp"
 
 // Gamma, from Apple's Quartz Display Services reference (not in the shared fact sheet; check on
 // a Mac first): CGDisplayGammaTableCapacity(display) -> uint32_t;
@@ -22,7 +21,7 @@
 //   IOReturn IOAVServiceReadI2C(IOAVServiceRef, uint32_t chip, uint32_t offset, void*, uint32_t)
 // on the registry's "DCPAVServiceProxy" services whose "Location" is "External". Pairing those
 // with displays in registry order is a guess: it holds for one external display, and for more
-// it is refused rather than risk writing to the wrong monitor.
+// it is refused rather than risk writing to the wrong monitor (ddcServiceIndex).
 
 namespace quorvane {
 
@@ -103,15 +102,15 @@ public:
         }
     }
 
-    // The one external AV service, when exactly one external display is connected.
+    // The AV service that carries DDC to the display, where one can be told.
     CFRef<AVService> externalService(std::uint32_t display) {
         const AVFunctions& av = avFunctions();
-        if (!av.create || CGDisplayIsBuiltin(display)) {
+        if (!av.create) {
             return {};
         }
         const auto services = externalServices(av.create);
-        const auto external = std::ranges::count(displays(), false, &Display::builtIn);
-        return services.size() == 1 && external == 1 ? services.front() : CFRef<AVService>();
+        const auto index = ddcServiceIndex(display, displays(), services.size());
+        return index ? services[*index] : CFRef<AVService>();
     }
 
     int writeI2C(std::uint32_t display, std::uint8_t chip, std::uint8_t offset,
