@@ -5,10 +5,10 @@
 #include <cstdint>
 #include <optional>
 #include <string>
-#include <type_traits>
 #include <utility>
 #include <vector>
 
+#include "base/Overloaded.hpp"
 #include "mac/CFRef.hpp"
 #include "mac/MacFrameworks.h"
 #include "mac/MacPropertyList.hpp"
@@ -56,6 +56,22 @@ static_assert(static_cast<AXValueType>(AccessibilityStructType::point) == kAXVal
 static_assert(static_cast<AXValueType>(AccessibilityStructType::size) == kAXValueTypeCGSize);
 static_assert(static_cast<AXValueType>(AccessibilityStructType::rect) == kAXValueTypeCGRect);
 static_assert(static_cast<AXValueType>(AccessibilityStructType::range) == kAXValueTypeCFRange);
+
+// An illegal argument when the element is not one of ours; else what `call` answers for it.
+template <typename Call>
+std::int32_t callOn(const Element& element, Call call) {
+    const AXUIElementRef ref = refOf(element);
+    return ref ? call(ref) : kAXErrorIllegalArgument;
+}
+
+// The same, with `name` (an attribute, action or notification) as a CFString, which text that
+// is not UTF-8 cannot become.
+template <typename Call>
+std::int32_t callNamed(const Element& element, std::string_view name, Call call) {
+    const CFRef<CFStringRef> cfName = makeCFString(name);
+    return cfName ? callOn(element, [&](AXUIElementRef ref) { return call(ref, cfName.get()); })
+                  : kAXErrorIllegalArgument;
+}
 
 // Core Foundation's objects, call for call; what they are read as is decided in
 // readAccessibilityValue.
@@ -108,19 +124,14 @@ CFRef<CFTypeRef> toCF(const AccessibilityValue& value) {
         return Ref::adopt(AXValueCreate(static_cast<AXValueType>(*type), structBytes(value)));
     }
     return std::visit(
-        [](const auto& v) -> Ref {
-            using T = std::decay_t<decltype(v)>;
-            if constexpr (std::is_same_v<T, Element>) {
-                return Ref::retain(refOf(v));
-            } else if constexpr (std::is_same_v<T, std::string>) {
-                return Ref::adopt(makeCFString(v).detach());
-            } else if constexpr (std::is_same_v<T, bool>) {
-                return Ref::retain(v ? kCFBooleanTrue : kCFBooleanFalse);
-            } else if constexpr (std::is_same_v<T, double>) {
+        Overloaded{
+            [](const Element& v) { return Ref::retain(refOf(v)); },
+            [](const std::string& v) { return Ref::adopt(makeCFString(v).detach()); },
+            [](bool v) { return Ref::retain(v ? kCFBooleanTrue : kCFBooleanFalse); },
+            [](double v) {
                 return Ref::adopt(CFNumberCreate(kCFAllocatorDefault, kCFNumberDoubleType, &v));
-            } else {
-                return {};
-            }
+            },
+            [](const auto&) { return Ref(); },
         },
         value);
 }
@@ -147,22 +158,10 @@ public:
     }
 
     std::int32_t addNotification(const Element& element, std::string_view name) override {
-        const AXUIElementRef ref = refOf(element);
-        const CFRef<CFStringRef> notification = makeCFString(name);
-        if (!ref || !notification) {
-            return kAXErrorIllegalArgument;
-        }
         // This object is the context: the callback finds its owner through it.
-        return AXObserverAddNotification(observer_.get(), ref, notification.get(), this);
-    }
-
-    std::int32_t removeNotification(const Element& element, std::string_view name) override {
-        const AXUIElementRef ref = refOf(element);
-        const CFRef<CFStringRef> notification = makeCFString(name);
-        if (!ref || !notification) {
-            return kAXErrorIllegalArgument;
-        }
-        return AXObserverRemoveNotification(observer_.get(), ref, notification.get());
+        return callNamed(element, name, [this](AXUIElementRef ref, CFStringRef notification) {
+            return AXObserverAddNotification(observer_.get(), ref, notification, this);
+        });
     }
 
     void schedule() override {
@@ -218,83 +217,69 @@ public:
 
     std::int32_t copyAttribute(const Element& element, std::string_view attribute,
                                AccessibilityValue& value) override {
-        const AXUIElementRef ref = refOf(element);
-        const CFRef<CFStringRef> name = makeCFString(attribute);
-        if (!ref || !name) {
-            return kAXErrorIllegalArgument;
-        }
-        CFTypeRef raw = nullptr;
-        const AXError status = AXUIElementCopyAttributeValue(ref, name.get(), &raw);
-        return adoptCopiedValue(status, raw, value);
+        return callNamed(element, attribute, [&](AXUIElementRef ref, CFStringRef name) {
+            CFTypeRef raw = nullptr;
+            const AXError status = AXUIElementCopyAttributeValue(ref, name, &raw);
+            return adoptCopiedValue(status, raw, value);
+        });
     }
 
     std::int32_t copyParameterizedAttribute(const Element& element, std::string_view attribute,
                                             const AccessibilityValue& parameter,
                                             AccessibilityValue& value) override {
-        const AXUIElementRef ref = refOf(element);
-        const CFRef<CFStringRef> name = makeCFString(attribute);
         const CFRef<CFTypeRef> cfParameter = toCF(parameter);
-        if (!ref || !name || !cfParameter) {
+        if (!cfParameter) {
             return kAXErrorIllegalArgument;
         }
-        CFTypeRef raw = nullptr;
-        const AXError status =
-            AXUIElementCopyParameterizedAttributeValue(ref, name.get(), cfParameter.get(), &raw);
-        return adoptCopiedValue(status, raw, value);
+        return callNamed(element, attribute, [&](AXUIElementRef ref, CFStringRef name) {
+            CFTypeRef raw = nullptr;
+            const AXError status =
+                AXUIElementCopyParameterizedAttributeValue(ref, name, cfParameter.get(), &raw);
+            return adoptCopiedValue(status, raw, value);
+        });
     }
 
     std::int32_t setAttribute(const Element& element, std::string_view attribute,
                               const AccessibilityValue& value) override {
-        const AXUIElementRef ref = refOf(element);
-        const CFRef<CFStringRef> name = makeCFString(attribute);
         const CFRef<CFTypeRef> cfValue = toCF(value);
-        if (!ref || !name || !cfValue) {
+        if (!cfValue) {
             return kAXErrorIllegalArgument;
         }
-        return AXUIElementSetAttributeValue(ref, name.get(), cfValue.get());
+        return callNamed(element, attribute, [&](AXUIElementRef ref, CFStringRef name) {
+            return AXUIElementSetAttributeValue(ref, name, cfValue.get());
+        });
     }
 
     std::int32_t elementAtPosition(const Element& application, float x, float y,
                                    Element& element) override {
-        const AXUIElementRef ref = refOf(application);
-        if (!ref) {
-            return kAXErrorIllegalArgument;
-        }
-        AXUIElementRef found = nullptr;
-        const AXError status = AXUIElementCopyElementAtPosition(ref, x, y, &found);
-        auto owned = CFRef<AXUIElementRef>::adopt(found);
-        if (status == kAXErrorSuccess) {
-            element = makeElement(std::move(owned));
-        }
-        return status;
+        return callOn(application, [&](AXUIElementRef ref) {
+            AXUIElementRef found = nullptr;
+            const AXError status = AXUIElementCopyElementAtPosition(ref, x, y, &found);
+            auto owned = CFRef<AXUIElementRef>::adopt(found);
+            if (status == kAXErrorSuccess) {
+                element = makeElement(std::move(owned));
+            }
+            return status;
+        });
     }
 
     std::int32_t pid(const Element& element, int& pid) override {
-        const AXUIElementRef ref = refOf(element);
-        if (!ref) {
-            return kAXErrorIllegalArgument;
-        }
-        pid_t value = 0;
-        const AXError status = AXUIElementGetPid(ref, &value);
-        pid = static_cast<int>(value);
-        return status;
+        return callOn(element, [&](AXUIElementRef ref) {
+            pid_t value = 0;
+            const AXError status = AXUIElementGetPid(ref, &value);
+            pid = static_cast<int>(value);
+            return status;
+        });
     }
 
     std::int32_t performAction(const Element& element, std::string_view action) override {
-        const AXUIElementRef ref = refOf(element);
-        const CFRef<CFStringRef> name = makeCFString(action);
-        if (!ref || !name) {
-            return kAXErrorIllegalArgument;
-        }
-        return AXUIElementPerformAction(ref, name.get());
+        return callNamed(element, action, &AXUIElementPerformAction);
     }
 
     std::int32_t setMessagingTimeout(const Element& element, float seconds) override {
-        const AXUIElementRef ref = refOf(element);
-        if (!ref) {
-            return kAXErrorIllegalArgument;
-        }
-        return AXUIElementSetMessagingTimeout(ref, seconds);
+        return callOn(element, [seconds](AXUIElementRef ref) {
+            return AXUIElementSetMessagingTimeout(ref, seconds);
+        });
     }
 
     std::unique_ptr<AccessibilityObserver> createObserver(int pid, ObserverCallback callback,

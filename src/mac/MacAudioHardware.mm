@@ -11,6 +11,7 @@
 
 #include "audio/AudioStreamFormat.hpp"
 #include "mac/CFRef.hpp"
+#include "mac/CancellableAction.hpp"
 #include "mac/MacFrameworks.h"
 #include "mac/MacPropertyList.hpp"
 #include "mac/MacStrings.hpp"
@@ -37,6 +38,15 @@ namespace {
 
 ::AudioObjectPropertyAddress halAddress(const AudioPropertyAddress& address) {
     return {address.selector, address.scope, address.element};
+}
+
+// The HAL's buffers in place; none for a list the HAL did not give.
+template <typename View, typename List>
+std::span<View> buffers(List* list) {
+    if (!list) {
+        return {};
+    }
+    return {reinterpret_cast<View*>(list->mBuffers), list->mNumberBuffers};
 }
 
 // The Core Audio HAL, call for call. Listener blocks are queued on the main dispatch queue and
@@ -92,12 +102,7 @@ public:
         auto listener = std::make_shared<Listener>(std::move(handler));
         AudioObjectPropertyListenerBlock block = ^(UInt32, const ::AudioObjectPropertyAddress*) {
           assert([NSThread isMainThread]);
-          // The handler may remove this very listener; the local copy keeps it alive until it
-          // returns.
-          const std::shared_ptr<Listener> running = listener;
-          if (!running->cancelled) {
-              running->handler();
-          }
+          Listener::run(listener);
         };
         const ::AudioObjectPropertyAddress hal = halAddress(address);
         const OSStatus status =
@@ -203,17 +208,8 @@ public:
         AudioDeviceIOBlock block =
             ^(const AudioTimeStamp*, const AudioBufferList* inputData, const AudioTimeStamp*,
               AudioBufferList* outputData, const AudioTimeStamp*) {
-              std::span<const AudioBufferView> input;
-              if (inputData) {
-                  input = {reinterpret_cast<const AudioBufferView*>(inputData->mBuffers),
-                           inputData->mNumberBuffers};
-              }
-              std::span<AudioBufferView> output;
-              if (outputData) {
-                  output = {reinterpret_cast<AudioBufferView*>(outputData->mBuffers),
-                            outputData->mNumberBuffers};
-              }
-              proc(context.get(), input, output);
+              proc(context.get(), buffers<const AudioBufferView>(inputData),
+                   buffers<AudioBufferView>(outputData));
             };
         AudioDeviceIOProcID procID = nullptr;
         // No dispatch queue: the HAL calls the block directly on its I/O thread.
@@ -258,11 +254,7 @@ public:
 
 private:
     // Shared by a listener block and its registration.
-    struct Listener {
-        explicit Listener(std::function<void()> body) : handler(std::move(body)) {}
-        bool cancelled = false;
-        std::function<void()> handler;
-    };
+    using Listener = CancellableAction<>;
     struct Entry {
         AudioObjectPropertyListenerBlock block;
         std::shared_ptr<Listener> listener;

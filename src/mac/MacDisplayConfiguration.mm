@@ -4,12 +4,11 @@
 
 #include "mac/MacPorts.hpp"
 
-#include <cassert>
 #include <memory>
 
 #include "mac/CFRef.hpp"
-#include "mac/CancellableHandler.hpp"
 #include "mac/MacFrameworks.h"
+#include "mac/MacObservation.hpp"
 #include "mac/MacStrings.hpp"
 
 // Notes, looked up in Apple's documentation for this file (check on a Mac first, none of it is
@@ -64,24 +63,10 @@ public:
 
     [[nodiscard]] Subscription observeReconfiguration(std::function<void()> handler) override {
         @autoreleasepool {
-            auto observer =
-                std::make_shared<CancellableHandler<std::function<void()>>>(std::move(handler));
-            id<NSObject> token = [[NSNotificationCenter defaultCenter]
-                addObserverForName:NSApplicationDidChangeScreenParametersNotification
-                            object:nil
-                             queue:[NSOperationQueue mainQueue]
-                        usingBlock:^(NSNotification* note) {
-                          (void)note;
-                          assert([NSThread isMainThread]);
-                          const auto running = observer;  // the handler may end the subscription
-                          if (!running->cancelled) {
-                              running->handler();
-                          }
-                        }];
-            return Subscription([observer, token] {
-                observer->cancelled = true;
-                [[NSNotificationCenter defaultCenter] removeObserver:token];
-            });
+            return observeOnMainQueue(
+                [NSNotificationCenter defaultCenter],
+                NSApplicationDidChangeScreenParametersNotification, nil,
+                [handler = std::move(handler)](NSNotification*) { handler(); });
         }
     }
 };

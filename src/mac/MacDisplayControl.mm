@@ -5,6 +5,7 @@
 #include "mac/CFRef.hpp"
 #include "mac/MacFrameworks.h"
 #include "mac/MacStrings.hpp"
+#include "platform/DdcServiceChoice.hpp"
 
 // Gamma, from Apple's Quartz Display Services reference (not in the shared fact sheet; check on
 // a Mac first): CGDisplayGammaTableCapacity(display) -> uint32_t;
@@ -20,7 +21,7 @@
 //   IOReturn IOAVServiceReadI2C(IOAVServiceRef, uint32_t chip, uint32_t offset, void*, uint32_t)
 // on the registry's "DCPAVServiceProxy" services whose "Location" is "External". Pairing those
 // with displays in registry order is a guess: it holds for one external display, and for more
-// it is refused rather than risk writing to the wrong monitor.
+// it is refused rather than risk writing to the wrong monitor (ddcServiceIndex).
 
 namespace quorvane {
 
@@ -49,42 +50,26 @@ const AVFunctions& avFunctions() {
     return functions;
 }
 
-// The one external AV service, when exactly one external display is connected.
-CFRef<AVService> externalService(std::uint32_t display) {
-    const AVFunctions& av = avFunctions();
-    if (!av.create || CGDisplayIsBuiltin(display)) {
-        return {};
-    }
+// The external AV services the registry lists, in its order.
+std::vector<CFRef<AVService>> externalServices(CreateWithService create) {
     std::vector<CFRef<AVService>> services;
     io_iterator_t iterator = 0;
     if (IOServiceGetMatchingServices(kIOMainPortDefault, IOServiceMatching("DCPAVServiceProxy"),
                                      &iterator) != KERN_SUCCESS) {
-        return {};
+        return services;
     }
     while (io_object_t service = IOIteratorNext(iterator)) {
         const auto location = CFRef<CFTypeRef>::adopt(
             IORegistryEntryCreateCFProperty(service, CFSTR("Location"), kCFAllocatorDefault, 0));
         if (location && CFEqual(location.get(), CFSTR("External"))) {
-            if (auto av_service =
-                    CFRef<AVService>::adopt(av.create(kCFAllocatorDefault, service))) {
+            if (auto av_service = CFRef<AVService>::adopt(create(kCFAllocatorDefault, service))) {
                 services.push_back(std::move(av_service));
             }
         }
         IOObjectRelease(service);
     }
     IOObjectRelease(iterator);
-    std::size_t externalDisplays = 0;
-    for (NSScreen* screen in [NSScreen screens]) {
-        NSNumber* number = screen.deviceDescription[@"NSScreenNumber"];
-        if ([number isKindOfClass:[NSNumber class]] &&
-            !CGDisplayIsBuiltin(number.unsignedIntValue)) {
-            ++externalDisplays;
-        }
-    }
-    if (services.size() != 1 || externalDisplays != 1) {
-        return {};
-    }
-    return services.front();
+    return services;
 }
 
 // NSScreen's displays, Quartz's gamma tables, and DDC over the external displays' I2C buses
@@ -117,6 +102,17 @@ public:
         }
     }
 
+    // The AV service that carries DDC to the display, where one can be told.
+    CFRef<AVService> externalService(std::uint32_t display) {
+        const AVFunctions& av = avFunctions();
+        if (!av.create) {
+            return {};
+        }
+        const auto services = externalServices(av.create);
+        const auto index = ddcServiceIndex(display, displays(), services.size());
+        return index ? services[*index] : CFRef<AVService>();
+    }
+
     int writeI2C(std::uint32_t display, std::uint8_t chip, std::uint8_t offset,
                  const std::vector<std::uint8_t>& data) override {
         const auto service = externalService(display);
@@ -140,23 +136,19 @@ public:
 
     int gammaTable(std::uint32_t display, GammaTable& table) override {
         const std::uint32_t capacity = CGDisplayGammaTableCapacity(display);
-        table.red.assign(capacity, 0);
-        table.green.assign(capacity, 0);
-        table.blue.assign(capacity, 0);
+        table = {};
+        table.resize(capacity);
         std::uint32_t count = 0;
         const CGError status = CGGetDisplayTransferByTable(
             display, capacity, table.red.data(), table.green.data(), table.blue.data(), &count);
-        table.red.resize(count);
-        table.green.resize(count);
-        table.blue.resize(count);
+        table.resize(count);
         return static_cast<int>(status);
     }
 
     int setGammaTable(std::uint32_t display, const GammaTable& table) override {
-        const auto size = static_cast<std::uint32_t>(
-            std::min({table.red.size(), table.green.size(), table.blue.size()}));
-        return static_cast<int>(CGSetDisplayTransferByTable(display, size, table.red.data(),
-                                                            table.green.data(), table.blue.data()));
+        return static_cast<int>(
+            CGSetDisplayTransferByTable(display, static_cast<std::uint32_t>(table.size()),
+                                        table.red.data(), table.green.data(), table.blue.data()));
     }
 
     void restoreColorSyncSettings() override { CGDisplayRestoreColorSyncSettings(); }

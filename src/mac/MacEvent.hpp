@@ -36,6 +36,8 @@ private:
     MacEvent() = default;
     // The AppKit view of the event, for what only AppKit reads; nil without an event.
     NSEvent* appKitEvent() const;
+    // The same for a system-defined event; nil for any other kind.
+    NSEvent* systemDefinedEvent() const;
 
     CGEventRef event_ = nullptr;
     CFRef<CGEventRef> owned_;

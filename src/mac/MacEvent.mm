@@ -100,25 +100,24 @@ NSEvent* MacEvent::appKitEvent() const {
     return [NSEvent eventWithCGEvent:event_];
 }
 
+NSEvent* MacEvent::systemDefinedEvent() const {
+    // AppKit raises an exception when other kinds of event are asked for their subtype or data;
+    // nil answers 0 instead.
+    return type() == EventType::systemDefined ? appKitEvent() : nil;
+}
+
 std::int16_t MacEvent::systemSubtype() const {
-    // AppKit raises an exception when other kinds of event are asked for their subtype.
-    if (type() != EventType::systemDefined) {
-        return 0;
-    }
     @autoreleasepool {
         // unconfirmed: check on a Mac first (NSEvent's subtype of a tapped system-defined event
         // is not in the fact sheet).
-        return static_cast<std::int16_t>(appKitEvent().subtype);
+        return static_cast<std::int16_t>(systemDefinedEvent().subtype);
     }
 }
 
 std::int64_t MacEvent::systemData1() const {
-    if (type() != EventType::systemDefined) {
-        return 0;
-    }
     @autoreleasepool {
         // unconfirmed: check on a Mac first (data1 is not in the fact sheet).
-        return static_cast<std::int64_t>(appKitEvent().data1);
+        return static_cast<std::int64_t>(systemDefinedEvent().data1);
     }
 }
 

@@ -4,6 +4,7 @@
 
 #include "mac/CFRef.hpp"
 #include "mac/MacFrameworks.h"
+#include "mac/MacPropertyList.hpp"
 #include "mac/MacStrings.hpp"
 #include "platform/Workspace.hpp"
 
@@ -26,15 +27,22 @@ std::string stringProperty(TISInputSourceRef source, CFStringRef key) {
 // unconfirmed: check on a Mac first (TISCreateInputSourceList, kTISPropertyInputSourceCategory,
 // kTISCategoryKeyboardInputSource and kTISPropertyInputSourceIsSelectCapable are not in the
 // fact sheet; written from Apple's Text Input Source Services reference).
-CFRef<CFArrayRef> selectableKeyboardSources() {
+std::vector<CFRef<TISInputSourceRef>> selectableKeyboardSources() {
     NSDictionary* filter = @{
         (__bridge NSString*)
         kTISPropertyInputSourceCategory : (__bridge NSString*)kTISCategoryKeyboardInputSource,
         (__bridge NSString*)kTISPropertyInputSourceIsSelectCapable : @YES,
     };
     // false: only the enabled sources, those in the input menu.
-    return CFRef<CFArrayRef>::adopt(
-        TISCreateInputSourceList((__bridge CFDictionaryRef)filter, false));
+    const auto list =
+        CFRef<CFArrayRef>::adopt(TISCreateInputSourceList((__bridge CFDictionaryRef)filter, false));
+    std::vector<CFRef<TISInputSourceRef>> sources;
+    // The array owns its elements; each is retained to outlive it.
+    for (const void* source : list ? arrayValues(list.get()) : std::vector<const void*>()) {
+        sources.push_back(CFRef<TISInputSourceRef>::retain(
+            static_cast<TISInputSourceRef>(const_cast<void*>(source))));
+    }
+    return sources;
 }
 
 // The current keyboard layout through Text Input Sources and UCKeyTranslate, and the keyboard
@@ -83,16 +91,9 @@ public:
         assert([NSThread isMainThread]);
         std::vector<InputSource> sources;
         @autoreleasepool {
-            const auto list = selectableKeyboardSources();
-            if (!list) {
-                return sources;
-            }
-            for (CFIndex i = 0; i < CFArrayGetCount(list.get()); ++i) {
-                // A Get: the array owns its elements.
-                const auto source = static_cast<TISInputSourceRef>(
-                    const_cast<void*>(CFArrayGetValueAtIndex(list.get(), i)));
-                sources.push_back({stringProperty(source, kTISPropertyInputSourceID),
-                                   stringProperty(source, kTISPropertyLocalizedName)});
+            for (const auto& source : selectableKeyboardSources()) {
+                sources.push_back({stringProperty(source.get(), kTISPropertyInputSourceID),
+                                   stringProperty(source.get(), kTISPropertyLocalizedName)});
             }
         }
         return sources;
@@ -111,18 +112,12 @@ public:
     bool selectInputSource(const std::string& id) override {
         assert([NSThread isMainThread]);
         @autoreleasepool {
-            const auto list = selectableKeyboardSources();
-            if (!list) {
-                return false;
-            }
-            for (CFIndex i = 0; i < CFArrayGetCount(list.get()); ++i) {
-                const auto source = static_cast<TISInputSourceRef>(
-                    const_cast<void*>(CFArrayGetValueAtIndex(list.get(), i)));
-                if (stringProperty(source, kTISPropertyInputSourceID) == id) {
+            for (const auto& source : selectableKeyboardSources()) {
+                if (stringProperty(source.get(), kTISPropertyInputSourceID) == id) {
                     // unconfirmed: check on a Mac first (TISSelectInputSource is not in the fact
                     // sheet). Some CJK input methods are reported to take the selection only after
                     // the focus changes.
-                    return TISSelectInputSource(source) == noErr;
+                    return TISSelectInputSource(source.get()) == noErr;
                 }
             }
         }

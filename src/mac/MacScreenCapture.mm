@@ -4,9 +4,11 @@
 
 #include "input/KeyCombo.hpp"
 #include "mac/CFRef.hpp"
-#include "mac/CancellableHandler.hpp"
+#include "mac/CancellableAction.hpp"
 #include "mac/MacFrameworks.h"
 #include "mac/MacStrings.hpp"
+#include "platform/AreaChoice.hpp"
+#include "platform/ShareableContent.hpp"
 
 // Written from Apple's ScreenCaptureKit reference; none of it is in the fact sheet, so every
 // call below is unconfirmed: check on a Mac first. In particular:
@@ -20,10 +22,11 @@
 
 namespace {
 
-using quorvane::CancellableHandler;
+using quorvane::CancellableAction;
 using quorvane::Rect;
 using quorvane::ScreenCapture;
 using quorvane::Thumbnail;
+using FinishCallback = CancellableAction<const std::string&>;
 
 Rect rectFrom(CGRect rect) {
     return {rect.origin.x, rect.origin.y, rect.size.width, rect.size.height};
@@ -57,6 +60,26 @@ SCContentFilter* makeFilter(SCShareableContent* content, const ScreenCapture::Ta
     return nil;
 }
 
+// The filter for a target from freshly listed content, or why there is none; `found` runs on
+// whatever queue ScreenCaptureKit answers on. Desktop and off-screen windows are listed only
+// when `everyWindow` is set.
+void findFilter(const ScreenCapture::Target& target, BOOL everyWindow,
+                void (^found)(SCContentFilter* filter, std::string failure)) {
+    const ScreenCapture::Target wanted = target;
+    [SCShareableContent
+        getShareableContentExcludingDesktopWindows:!everyWindow
+                               onScreenWindowsOnly:!everyWindow
+                                 completionHandler:^(SCShareableContent* content, NSError* error) {
+                                   if (content == nil) {
+                                       found(nil, describe(error));
+                                       return;
+                                   }
+                                   SCContentFilter* filter = makeFilter(content, wanted);
+                                   found(filter, filter != nil ? std::string()
+                                                               : "the display or window is gone");
+                                 }];
+}
+
 SCStreamConfiguration* makeConfiguration(const ScreenCapture::Target& target, int width,
                                          int height) {
     SCStreamConfiguration* configuration = [[SCStreamConfiguration alloc] init];
@@ -79,18 +102,15 @@ ScreenCapture::Content convert(SCShareableContent* content) {
     for (SCWindow* window in content.windows) {
         ScreenCapture::Window listed;
         listed.windowID = window.windowID;
-        listed.pid = window.owningApplication != nil ? window.owningApplication.processID : 0;
-        listed.title = window.title != nil ? quorvane::utf8String(window.title) : std::string();
+        // A window without an owner answers 0 and one without a title empty text.
+        listed.pid = window.owningApplication.processID;
+        listed.title = quorvane::utf8String(window.title);
         listed.frame = rectFrom(window.frame);
         listed.layer = static_cast<int>(window.windowLayer);
         listed.onScreen = window.onScreen;
-        for (const auto& display : result.displays) {
-            if (display.frame.contains({listed.frame.midX(), listed.frame.midY()})) {
-                listed.scale = display.scale;
-            }
-        }
         result.windows.push_back(std::move(listed));
     }
+    assignWindowScales(result);
     return result;
 }
 
@@ -105,13 +125,12 @@ ScreenCapture::Content convert(SCShareableContent* content) {
 
 __attribute__((availability(macos, introduced = 15.0)))
 @interface QVRecordingSession : NSObject<SCStreamDelegate, SCRecordingOutputDelegate, QVStoppable>
-- (instancetype)initWithHandler:
-    (std::shared_ptr<CancellableHandler<ScreenCapture::FinishHandler>>)handler;
+- (instancetype)initWithHandler:(std::shared_ptr<FinishCallback>)handler;
 - (void)start:(const ScreenCapture::RecordingRequest&)request;
 @end
 
 @implementation QVRecordingSession {
-    std::shared_ptr<CancellableHandler<ScreenCapture::FinishHandler>> _handler;
+    std::shared_ptr<FinishCallback> _handler;
     SCStream* _stream;
     SCRecordingOutput* _output;
     QVRecordingSession* _keepAlive;
@@ -119,8 +138,7 @@ __attribute__((availability(macos, introduced = 15.0)))
     BOOL _reported;
 }
 
-- (instancetype)initWithHandler:
-    (std::shared_ptr<CancellableHandler<ScreenCapture::FinishHandler>>)handler {
+- (instancetype)initWithHandler:(std::shared_ptr<FinishCallback>)handler {
     if ((self = [super init])) {
         _handler = std::move(handler);
         _keepAlive = self;
@@ -130,26 +148,22 @@ __attribute__((availability(macos, introduced = 15.0)))
 
 - (void)start:(const ScreenCapture::RecordingRequest&)request {
     const ScreenCapture::RecordingRequest wanted = request;
-    [SCShareableContent
-        getShareableContentExcludingDesktopWindows:YES
-                               onScreenWindowsOnly:YES
-                                 completionHandler:^(SCShareableContent* content, NSError* error) {
-                                   dispatch_async(dispatch_get_main_queue(), ^{
-                                     [self begin:wanted content:content error:error];
-                                   });
-                                 }];
+    findFilter(request.target, NO, ^(SCContentFilter* filter, std::string failure) {
+      dispatch_async(dispatch_get_main_queue(), ^{
+        [self begin:wanted filter:filter failure:failure];
+      });
+    });
 }
 
 - (void)begin:(const ScreenCapture::RecordingRequest&)request
-      content:(SCShareableContent*)content
-        error:(NSError*)error {
+       filter:(SCContentFilter*)filter
+      failure:(const std::string&)failure {
     if (_stopRequested) {
         [self report:"stopped before it began"];
         return;
     }
-    SCContentFilter* filter = content != nil ? makeFilter(content, request.target) : nil;
     if (filter == nil) {
-        [self report:content != nil ? "the display or window is gone" : describe(error)];
+        [self report:failure];
         return;
     }
     SCStreamConfiguration* configuration =
@@ -170,9 +184,7 @@ __attribute__((availability(macos, introduced = 15.0)))
     }
     [_stream startCaptureWithCompletionHandler:^(NSError* startError) {
       if (startError != nil) {
-          dispatch_async(dispatch_get_main_queue(), ^{
-            [self report:describe(startError)];
-          });
+          [self reportLater:startError];
       }
     }];
 }
@@ -181,9 +193,7 @@ __attribute__((availability(macos, introduced = 15.0)))
     _stopRequested = YES;
     [_stream stopCaptureWithCompletionHandler:^(NSError* stopError) {
       if (stopError != nil) {
-          dispatch_async(dispatch_get_main_queue(), ^{
-            [self report:describe(stopError)];
-          });
+          [self reportLater:stopError];
       }
     }];
 }
@@ -198,26 +208,26 @@ __attribute__((availability(macos, introduced = 15.0)))
         return;
     }
     _reported = YES;
-    if (!_handler->cancelled) {
-        _handler->handler(error);
-    }
+    FinishCallback::run(_handler, error);
     _keepAlive = nil;
+}
+
+// From any queue.
+- (void)reportLater:(NSError*)error {
+    const std::string text = describe(error);
+    dispatch_async(dispatch_get_main_queue(), ^{
+      [self report:text];
+    });
 }
 
 - (void)stream:(SCStream*)stream didStopWithError:(NSError*)error {
     (void)stream;
-    const std::string text = describe(error);
-    dispatch_async(dispatch_get_main_queue(), ^{
-      [self report:text];
-    });
+    [self reportLater:error];
 }
 
 - (void)recordingOutput:(SCRecordingOutput*)recordingOutput didFailWithError:(NSError*)error {
     (void)recordingOutput;
-    const std::string text = describe(error);
-    dispatch_async(dispatch_get_main_queue(), ^{
-      [self report:text];
-    });
+    [self reportLater:error];
 }
 
 - (void)recordingOutputDidFinishRecording:(SCRecordingOutput*)recordingOutput {
@@ -327,7 +337,8 @@ private:
 class MacScreenCapture final : public ScreenCapture {
 public:
     Subscription shareableContent(ContentHandler handler) override {
-        auto shared = std::make_shared<CancellableHandler<ContentHandler>>(std::move(handler));
+        using Callback = CancellableAction<std::optional<Content>, const std::string&>;
+        auto shared = std::make_shared<Callback>(std::move(handler));
         [SCShareableContent
             getShareableContentExcludingDesktopWindows:YES
                                    onScreenWindowsOnly:YES
@@ -340,9 +351,7 @@ public:
                                        const std::string failure =
                                            content != nil ? std::string() : describe(error);
                                        dispatch_async(dispatch_get_main_queue(), ^{
-                                         if (!shared->cancelled) {
-                                             shared->handler(listed, failure);
-                                         }
+                                         Callback::run(shared, listed, failure);
                                        });
                                      }];
         return Subscription([shared] { shared->cancelled = true; });
@@ -350,54 +359,38 @@ public:
 
     Subscription captureImage(const Target& target, int pixelWidth, int pixelHeight,
                               ImageHandler handler) override {
-        auto shared = std::make_shared<CancellableHandler<ImageHandler>>(std::move(handler));
-        const Target wanted = target;
+        using Callback = CancellableAction<std::optional<Thumbnail>, const std::string&>;
+        auto shared = std::make_shared<Callback>(std::move(handler));
         const auto deliver = ^(std::optional<Thumbnail> image, std::string failure) {
           dispatch_async(dispatch_get_main_queue(), ^{
-            if (!shared->cancelled) {
-                shared->handler(image, failure);
-            }
+            Callback::run(shared, image, failure);
           });
         };
-        [SCShareableContent
-            getShareableContentExcludingDesktopWindows:NO
-                                   onScreenWindowsOnly:NO
-                                     completionHandler:^(SCShareableContent* content,
-                                                         NSError* error) {
-                                       SCContentFilter* filter =
-                                           content != nil ? makeFilter(content, wanted) : nil;
-                                       if (filter == nil) {
-                                           deliver(std::nullopt,
-                                                   content != nil ? "the display or window is gone"
-                                                                  : describe(error));
-                                           return;
-                                       }
-                                       [SCScreenshotManager
-                                           captureImageWithFilter:filter
-                                                    configuration:makeConfiguration(wanted,
-                                                                                    pixelWidth,
-                                                                                    pixelHeight)
-                                                completionHandler:^(CGImageRef image,
-                                                                    NSError* failure) {
-                                                  if (image == nullptr) {
-                                                      deliver(std::nullopt, describe(failure));
-                                                      return;
-                                                  }
-                                                  // The handler's reference lasts only as long
-                                                  // as the call; the thumbnail keeps its own.
-                                                  CFRetain(image);
-                                                  Thumbnail thumbnail;
-                                                  thumbnail.width =
-                                                      static_cast<int>(CGImageGetWidth(image));
-                                                  thumbnail.height =
-                                                      static_cast<int>(CGImageGetHeight(image));
-                                                  thumbnail.image = std::shared_ptr<const void>(
-                                                      image, [](const void* held) {
-                                                          CFRelease(static_cast<CFTypeRef>(held));
-                                                      });
-                                                  deliver(thumbnail, {});
-                                                }];
-                                     }];
+        SCStreamConfiguration* configuration = makeConfiguration(target, pixelWidth, pixelHeight);
+        findFilter(target, YES, ^(SCContentFilter* filter, std::string failure) {
+          if (filter == nil) {
+              deliver(std::nullopt, failure);
+              return;
+          }
+          [SCScreenshotManager
+              captureImageWithFilter:filter
+                       configuration:configuration
+                   completionHandler:^(CGImageRef image, NSError* error) {
+                     if (image == nullptr) {
+                         deliver(std::nullopt, describe(error));
+                         return;
+                     }
+                     // The handler's reference lasts only as long as the call; the thumbnail
+                     // keeps its own.
+                     CFRetain(image);
+                     Thumbnail thumbnail;
+                     thumbnail.width = static_cast<int>(CGImageGetWidth(image));
+                     thumbnail.height = static_cast<int>(CGImageGetHeight(image));
+                     thumbnail.image = std::shared_ptr<const void>(
+                         image, [](const void* held) { CFRelease(static_cast<CFTypeRef>(held)); });
+                     deliver(thumbnail, {});
+                   }];
+        });
         return Subscription([shared] { shared->cancelled = true; });
     }
 
@@ -405,7 +398,7 @@ public:
                                                              FinishHandler finished,
                                                              std::string& error) override {
         if (@available(macOS 15.0, *)) {
-            auto shared = std::make_shared<CancellableHandler<FinishHandler>>(std::move(finished));
+            auto shared = std::make_shared<FinishCallback>(std::move(finished));
             QVRecordingSession* session = [[QVRecordingSession alloc] initWithHandler:shared];
             [session start:request];
             return std::make_unique<MacRecording>(session);
@@ -434,32 +427,19 @@ public:
     }
 
     Subscription selectArea(AreaHandler handler) override {
-        auto shared = std::make_shared<CancellableHandler<AreaHandler>>(std::move(handler));
         NSMutableArray<NSWindow*>* windows = [NSMutableArray array];
         NSScreen* primary = NSScreen.screens.firstObject;
-        const CGFloat primaryHeight = primary.frame.size.height;
-        __block BOOL done = NO;
+        const auto choice = std::make_shared<AreaChoice>(
+            std::move(handler),
+            [windows] {
+                for (NSWindow* window in windows) {
+                    [window orderOut:nil];
+                }
+                [windows removeAllObjects];
+            },
+            primary.frame.size.height);
         void (^finish)(NSRect, BOOL) = ^(NSRect screenRect, BOOL chosen) {
-          if (done) {
-              return;
-          }
-          done = YES;
-          for (NSWindow* window in windows) {
-              [window orderOut:nil];
-          }
-          [windows removeAllObjects];
-          if (shared->cancelled) {
-              return;
-          }
-          if (!chosen) {
-              shared->handler(std::nullopt);
-              return;
-          }
-          // Screen coordinates grow upward from the main display's bottom; accessibility ones
-          // downward from its top.
-          shared->handler(Rect(screenRect.origin.x,
-                               primaryHeight - screenRect.origin.y - screenRect.size.height,
-                               screenRect.size.width, screenRect.size.height));
+          choice->finish(chosen ? std::optional(rectFrom(screenRect)) : std::nullopt);
         };
         for (NSScreen* screen in NSScreen.screens) {
             QVAreaWindow* window =
@@ -480,10 +460,7 @@ public:
         }
         [NSApp activate];
         // Turning the tool off while the crosshair is up takes the crosshair away too.
-        return Subscription([shared, finish] {
-            shared->cancelled = true;
-            finish(NSZeroRect, NO);
-        });
+        return Subscription([choice] { choice->cancel(); });
     }
 };
 

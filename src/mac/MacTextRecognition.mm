@@ -3,7 +3,7 @@
 #include <memory>
 #include <vector>
 
-#include "mac/CancellableHandler.hpp"
+#include "mac/CancellableAction.hpp"
 #include "mac/MacFrameworks.h"
 #include "mac/MacStrings.hpp"
 
@@ -48,7 +48,8 @@ class MacTextRecognition final : public TextRecognition {
 public:
     Subscription recognize(const Thumbnail& image, bool accurate, bool languageCorrection,
                            Handler handler) override {
-        auto shared = std::make_shared<CancellableHandler<Handler>>(std::move(handler));
+        using Callback = CancellableAction<const std::vector<Observation>&, const std::string&>;
+        auto shared = std::make_shared<Callback>(std::move(handler));
         // The shared pointer keeps the picture alive on the other queue.
         const std::shared_ptr<const void> picture = image.image;
         // 0 is the default-priority global queue.
@@ -61,9 +62,7 @@ public:
                        languageCorrection, found, failure);
           }
           dispatch_async(dispatch_get_main_queue(), ^{
-            if (!shared->cancelled) {
-                shared->handler(found, failure);
-            }
+            Callback::run(shared, found, failure);
           });
         });
         return Subscription([shared] { shared->cancelled = true; });

@@ -9,11 +9,14 @@ namespace {
 // A number of the info dictionary, or nothing when it is missing or not a number.
 NSNumber* numberIn(NSDictionary* info, CFStringRef key) {
     id value = info[(__bridge id)key];
-    if (![value isKindOfClass:[NSNumber class]]) {
-        return nil;
-    }
-    NSNumber* number = value;
-    return number;
+    return [value isKindOfClass:[NSNumber class]] ? value : nil;
+}
+
+// The window server's descriptions of the on-screen windows, front to back. A Copy, handed to
+// ARC. NULL outside a GUI session, which ARC turns into nil.
+NSArray* onScreenWindowInfo() {
+    return (__bridge_transfer NSArray*)CGWindowListCopyWindowInfo(
+        kCGWindowListOptionOnScreenOnly | kCGWindowListExcludeDesktopElements, kCGNullWindowID);
 }
 
 // The window server's on-screen windows through CGWindowListCopyWindowInfo.
@@ -22,18 +25,12 @@ public:
     std::vector<int> onScreenWindowOwners() override {
         @autoreleasepool {
             std::vector<int> owners;
-            // A Copy, handed to ARC. NULL outside a GUI session, which ARC turns into nil.
-            NSArray* windows = (__bridge_transfer NSArray*)CGWindowListCopyWindowInfo(
-                kCGWindowListOptionOnScreenOnly | kCGWindowListExcludeDesktopElements,
-                kCGNullWindowID);
-            for (NSDictionary* info in windows) {
+            for (NSDictionary* info in onScreenWindowInfo()) {
                 // unconfirmed: check on a Mac first (-[NSNumber intValue] and -isKindOfClass: are
                 // not in the fact sheet; the owner key holds a CFNumber of a 32-bit signed
                 // integer).
-                id owner = info[(__bridge id)kCGWindowOwnerPID];
-                if ([owner isKindOfClass:[NSNumber class]]) {
-                    NSNumber* number = owner;
-                    owners.push_back(number.intValue);
+                if (NSNumber* owner = numberIn(info, kCGWindowOwnerPID)) {
+                    owners.push_back(owner.intValue);
                 }
             }
             return owners;
@@ -43,10 +40,7 @@ public:
     std::vector<WindowInfo> onScreenWindows() override {
         @autoreleasepool {
             std::vector<WindowInfo> result;
-            NSArray* windows = (__bridge_transfer NSArray*)CGWindowListCopyWindowInfo(
-                kCGWindowListOptionOnScreenOnly | kCGWindowListExcludeDesktopElements,
-                kCGNullWindowID);
-            for (NSDictionary* info in windows) {
+            for (NSDictionary* info in onScreenWindowInfo()) {
                 NSNumber* number = numberIn(info, kCGWindowNumber);
                 NSNumber* owner = numberIn(info, kCGWindowOwnerPID);
                 NSNumber* layer = numberIn(info, kCGWindowLayer);

@@ -4,7 +4,7 @@
 #include <memory>
 #include <string>
 
-#include "mac/CancellableHandler.hpp"
+#include "mac/CancellableAction.hpp"
 #include "mac/MacFrameworks.h"
 #include "mac/MacObservation.hpp"
 #include "mac/MacStrings.hpp"
@@ -29,6 +29,11 @@ RunningApplication describe(NSRunningApplication* app) {
     result.terminated = app.terminated;
     result.bundleURL = utf8String(app.bundleURL.absoluteString);
     return result;
+}
+
+// nil when no such process runs, and a message to nil answers NO.
+NSRunningApplication* applicationWithPid(int pid) {
+    return [NSRunningApplication runningApplicationWithProcessIdentifier:static_cast<pid_t>(pid)];
 }
 
 NSNotificationName notificationName(WorkspaceNotification notification) {
@@ -56,17 +61,15 @@ NSNotificationName notificationName(WorkspaceNotification notification) {
 // Key-value observation and the distributed centre's choice of suspension both need an object
 // that answers a message; this one only relays to its handler, until the handler is cancelled.
 @interface QuorvaneRelay : NSObject
-- (instancetype)initWithHandler:
-    (std::shared_ptr<quorvane::CancellableHandler<std::function<void()>>>)handler;
+- (instancetype)initWithHandler:(std::shared_ptr<quorvane::CancellableAction<>>)handler;
 - (void)deliver:(NSNotification*)notification;
 @end
 
 @implementation QuorvaneRelay {
-    std::shared_ptr<quorvane::CancellableHandler<std::function<void()>>> _handler;
+    std::shared_ptr<quorvane::CancellableAction<>> _handler;
 }
 
-- (instancetype)initWithHandler:
-    (std::shared_ptr<quorvane::CancellableHandler<std::function<void()>>>)handler {
+- (instancetype)initWithHandler:(std::shared_ptr<quorvane::CancellableAction<>>)handler {
     if ((self = [super init])) {
         _handler = std::move(handler);
     }
@@ -78,11 +81,7 @@ NSNotificationName notificationName(WorkspaceNotification notification) {
     // unconfirmed: check on a Mac first that the workspace sends its key-value changes on the
     // main thread; distributed posts arrive on the main thread's run loop.
     assert([NSThread isMainThread]);
-    // The handler may end this subscription; the local copy keeps it alive until it returns.
-    const auto running = _handler;
-    if (!running->cancelled) {
-        running->handler();
-    }
+    quorvane::CancellableAction<>::run(_handler);
 }
 
 - (void)observeValueForKeyPath:(NSString*)keyPath
@@ -135,8 +134,7 @@ public:
 
     std::optional<RunningApplication> runningApplication(int pid) override {
         @autoreleasepool {
-            NSRunningApplication* app = [NSRunningApplication
-                runningApplicationWithProcessIdentifier:static_cast<pid_t>(pid)];
+            NSRunningApplication* app = applicationWithPid(pid);
             return app ? std::optional(describe(app)) : std::nullopt;
         }
     }
@@ -156,12 +154,10 @@ public:
 
     bool activate(int pid) override {
         @autoreleasepool {
-            NSRunningApplication* app = [NSRunningApplication
-                runningApplicationWithProcessIdentifier:static_cast<pid_t>(pid)];
             // No options: ignoring other apps has no effect since macOS 14, and all windows would
             // pull every window of the app forward, not just the one the user meant.
-            return app ? [app activateWithOptions:static_cast<NSApplicationActivationOptions>(0)]
-                       : false;
+            return [applicationWithPid(pid)
+                activateWithOptions:static_cast<NSApplicationActivationOptions>(0)];
         }
     }
 
@@ -171,17 +167,13 @@ public:
     // the request was sent. Neither waits for the app to do it.
     bool terminateApplication(int pid) override {
         @autoreleasepool {
-            NSRunningApplication* app = [NSRunningApplication
-                runningApplicationWithProcessIdentifier:static_cast<pid_t>(pid)];
-            return app ? [app terminate] : false;
+            return [applicationWithPid(pid) terminate];
         }
     }
 
     bool hideApplication(int pid) override {
         @autoreleasepool {
-            NSRunningApplication* app = [NSRunningApplication
-                runningApplicationWithProcessIdentifier:static_cast<pid_t>(pid)];
-            return app ? [app hide] : false;
+            return [applicationWithPid(pid) hide];
         }
     }
 
@@ -231,8 +223,7 @@ public:
             if (!notification) {
                 return {};
             }
-            auto observer =
-                std::make_shared<CancellableHandler<std::function<void()>>>(std::move(handler));
+            auto observer = std::make_shared<CancellableAction<>>(std::move(handler));
             QuorvaneRelay* relay = [[QuorvaneRelay alloc] initWithHandler:observer];
             // An accessory app is almost never active, and an inactive app's distributed
             // notifications are held back and coalesced by default; the ones observed here (a
@@ -256,8 +247,7 @@ public:
 
     [[nodiscard]] Subscription observeRunningApplications(std::function<void()> handler) override {
         @autoreleasepool {
-            auto observer =
-                std::make_shared<CancellableHandler<std::function<void()>>>(std::move(handler));
+            auto observer = std::make_shared<CancellableAction<>>(std::move(handler));
             QuorvaneRelay* relay = [[QuorvaneRelay alloc] initWithHandler:observer];
             // unconfirmed: check on a Mac first (key-value observation of runningApplications and
             // -removeObserver:forKeyPath: are not in the fact sheet).

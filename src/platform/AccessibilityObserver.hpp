@@ -13,9 +13,8 @@ class AccessibilityObserver {
 public:
     virtual ~AccessibilityObserver() = default;
 
-    // AXObserverAddNotification / AXObserverRemoveNotification; AXError statuses.
+    // AXObserverAddNotification; an AXError status. Registrations end with the observer.
     virtual std::int32_t addNotification(const Element& element, std::string_view name) = 0;
-    virtual std::int32_t removeNotification(const Element& element, std::string_view name) = 0;
     // Adds the observer's run-loop source to the main run loop in the common modes.
     virtual void schedule() = 0;
 };

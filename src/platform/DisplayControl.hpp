@@ -1,5 +1,7 @@
 #pragma once
 
+#include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -29,6 +31,14 @@ public:
         std::vector<float> red;
         std::vector<float> green;
         std::vector<float> blue;
+        // Every channel `count` entries long; entries added are 0.
+        void resize(std::size_t count) {
+            red.resize(count);
+            green.resize(count);
+            blue.resize(count);
+        }
+        // The entries all three channels have.
+        std::size_t size() const { return std::min({red.size(), green.size(), blue.size()}); }
         friend bool operator==(const GammaTable&, const GammaTable&) = default;
     };
 

@@ -33,9 +33,6 @@ struct FakeAccessibility : Accessibility {
             ++owner.registrationCalls[pid];
             return status;
         }
-        std::int32_t removeNotification(const Element&, std::string_view) override {
-            return kSuccess;
-        }
         void schedule() override { scheduled = true; }
 
         FakeAccessibility& owner;
