@@ -154,11 +154,9 @@ constexpr CGFloat kPageWidth = 520;
     }
     _reloadingSidebar = NO;
     _noResults.hidden = !_rows.empty();
-    // Text being typed is the user's; the query only changes under them when a tool's page
-    // is opened from elsewhere.
-    if (_search.currentEditor == nil) {
-        _search.stringValue = quorvane::text(_model->query());
-    }
+    // The query only changes under the user's typing when a tool's page is opened from
+    // elsewhere.
+    quorvane::showUnlessEditing(_search, _model->query());
 
     [self rebuildHeader];
     quorvane::fillPermissionCards(_cards, _model->cards(), _model->cardNotice(), _performCard,

@@ -47,6 +47,8 @@ NSButton* makeCheckbox(std::string_view title, bool on, NSMutableArray* keep,
 // Commits its text when the user presses Return or leaves the field, not on every keystroke.
 NSTextField* makeCommittingField(std::string_view placeholder, CGFloat minimumWidth,
                                  NSMutableArray* keep, void (^commit)(const std::string& text));
+// Text being typed is the user's: a field that is being edited keeps it.
+void showUnlessEditing(NSTextField* field, std::string_view utf8);
 // The warning triangle with `label` beside it, wrapping.
 NSStackView* makeWarning(NSTextField* label);
 

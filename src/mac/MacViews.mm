@@ -226,6 +226,12 @@ NSTextField* makeCommittingField(std::string_view placeholder, CGFloat minimumWi
     return field;
 }
 
+void showUnlessEditing(NSTextField* field, std::string_view utf8) {
+    if (field.currentEditor == nil) {
+        field.stringValue = text(utf8);
+    }
+}
+
 NSStackView* makeWarning(NSTextField* label) {
     NSStackView* row = makeRow(6, @[
         makeSymbol("exclamationmark.triangle.fill", 13, ColorRole::orange),

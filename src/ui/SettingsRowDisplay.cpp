@@ -2,7 +2,10 @@
 
 #include <cmath>
 #include <sstream>
+#include <utility>
 #include <variant>
+
+#include "base/CallIfSet.hpp"
 
 namespace quorvane {
 
@@ -113,6 +116,31 @@ std::optional<std::size_t> moveTarget(std::size_t index, std::size_t count, int 
         return std::nullopt;
     }
     return static_cast<std::size_t>(target);
+}
+
+std::vector<SettingsRow::EditableEntry> editableEntries(const SettingsRow::EditableList& list) {
+    return list.entries ? list.entries() : std::vector<SettingsRow::EditableEntry>{};
+}
+
+EditableLineActions editableLineActions(const SettingsRow::EditableList& list, std::size_t index,
+                                        std::size_t count) {
+    EditableLineActions actions{
+        [set = list.setKey, index](const std::string& text) { callIfSet(set, index, text); },
+        [set = list.setValue, index](const std::string& text) { callIfSet(set, index, text); },
+        [remove = list.remove, index] { callIfSet(remove, index); },
+        {},
+    };
+    if (!list.move) {
+        return actions;
+    }
+    for (const auto& [title, offset] : {std::pair{"↑", -1}, std::pair{"↓", 1}}) {
+        EditableMove move{title, nullptr};
+        if (const auto target = moveTarget(index, count, offset)) {
+            move.action = [moveEntry = list.move, index, to = *target] { moveEntry(index, to); };
+        }
+        actions.moves.push_back(std::move(move));
+    }
+    return actions;
 }
 
 std::string customText(const SettingsRow::Custom& custom) {

@@ -166,5 +166,32 @@ TEST(SettingsRowDisplayTest, EntriesMoveOnlyWithinTheList) {
     EXPECT_EQ(moveTarget(3, 3, -1), std::nullopt) << "an entry that is gone does not move";
 }
 
+TEST(SettingsRowDisplayTest, EditableLinesActOnTheirOwnEntry) {
+    std::vector<std::string> calls;
+    SettingsRow::EditableList list;
+    list.setKey = [&](std::size_t index, const std::string& text) {
+        calls.push_back("key " + std::to_string(index) + " " + text);
+    };
+    list.remove = [&](std::size_t index) { calls.push_back("remove " + std::to_string(index)); };
+    auto first = editableLineActions(list, 0, 3);
+    EXPECT_TRUE(first.moves.empty()) << "a list in a fixed order shows no move buttons";
+    first.setKey("a");
+    first.setValue("no binding, no call");
+    editableLineActions(list, 2, 3).remove();
+
+    list.move = [&](std::size_t from, std::size_t to) {
+        calls.push_back("move " + std::to_string(from) + " " + std::to_string(to));
+    };
+    first = editableLineActions(list, 0, 3);
+    ASSERT_EQ(first.moves.size(), 2u);
+    EXPECT_FALSE(first.moves[0].action) << "the first entry cannot move up";
+    first.moves[1].action();
+    const auto last = editableLineActions(list, 2, 3);
+    EXPECT_FALSE(last.moves[1].action) << "the last entry cannot move down";
+    last.moves[0].action();
+    EXPECT_EQ(calls, (std::vector<std::string>{"key 0 a", "remove 2", "move 0 1", "move 2 1"}));
+    EXPECT_TRUE(editableEntries(list).empty());
+}
+
 }  // namespace
 }  // namespace quorvane
