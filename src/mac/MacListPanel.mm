@@ -7,6 +7,7 @@
 #include <memory>
 #include <string>
 
+#include "mac/MacFloatingWindow.hpp"
 #include "mac/MacFrameworks.h"
 #include "mac/MacStrings.hpp"
 #include "mac/MacViews.hpp"
@@ -94,23 +95,15 @@ using quorvane::ListPanelRow;
     }
     _handlers = std::move(handlers);
     const NSRect size = NSMakeRect(0, 0, ListPanelContent::kWidth, ListPanelContent::kHeight);
-    _panel = [[QVKeyablePanel alloc]
-        initWithContentRect:size
-                  styleMask:NSWindowStyleMaskBorderless | NSWindowStyleMaskNonactivatingPanel
-                    backing:NSBackingStoreBuffered
-                      defer:NO];
     // A pop-up list over other apps' windows, on the Space and full-screen app in use.
-    _panel.level = NSPopUpMenuWindowLevel;
+    _panel = quorvane::makeFloatingWindow([QVKeyablePanel class], size,
+                                          NSWindowStyleMaskNonactivatingPanel,
+                                          NSPopUpMenuWindowLevel, [NSColor clearColor]);
     _panel.collectionBehavior = NSWindowCollectionBehaviorCanJoinAllSpaces |
                                 NSWindowCollectionBehaviorTransient |
                                 NSWindowCollectionBehaviorFullScreenAuxiliary;
     _panel.alphaValue = 1;
-    _panel.opaque = NO;
     _panel.hasShadow = YES;
-    _panel.backgroundColor = [NSColor clearColor];
-    // Quorvane is almost never the active app, so hiding on deactivation would hide at once.
-    _panel.hidesOnDeactivate = NO;
-    _panel.releasedWhenClosed = NO;
     _panel.acceptsMouseMovedEvents = YES;
     [self buildViews];
 
@@ -135,13 +128,8 @@ using quorvane::ListPanelRow;
 }
 
 - (void)buildViews {
-    NSVisualEffectView* background = [[NSVisualEffectView alloc] init];
-    background.material = NSVisualEffectMaterialPopover;
-    background.blendingMode = NSVisualEffectBlendingModeBehindWindow;
-    background.state = NSVisualEffectStateActive;
-    background.wantsLayer = YES;
-    background.layer.cornerRadius = ListPanelContent::kCornerRadius;
-    background.layer.masksToBounds = YES;
+    NSVisualEffectView* background =
+        quorvane::makeMaterialBackground(ListPanelContent::kCornerRadius);
 
     _search = [NSTextField textFieldWithString:@""];
     _search.delegate = self;
@@ -188,12 +176,9 @@ using quorvane::ListPanelRow;
         view.translatesAutoresizingMaskIntoConstraints = NO;
         [content addSubview:view];
     }
+    quorvane::pinEdges(background, content, 0);
     const CGFloat pad = ListPanelContent::kPadding;
     [NSLayoutConstraint activateConstraints:@[
-        [background.leadingAnchor constraintEqualToAnchor:content.leadingAnchor],
-        [background.trailingAnchor constraintEqualToAnchor:content.trailingAnchor],
-        [background.topAnchor constraintEqualToAnchor:content.topAnchor],
-        [background.bottomAnchor constraintEqualToAnchor:content.bottomAnchor],
         [_search.topAnchor constraintEqualToAnchor:content.topAnchor constant:pad],
         [_search.leadingAnchor constraintEqualToAnchor:content.leadingAnchor constant:pad],
         [_search.trailingAnchor constraintEqualToAnchor:content.trailingAnchor constant:-pad],
@@ -305,10 +290,8 @@ using quorvane::ListPanelRow;
     if (image != nil) {
         NSImageView* view = [NSImageView imageViewWithImage:image];
         view.imageScaling = NSImageScaleProportionallyUpOrDown;
-        view.translatesAutoresizingMaskIntoConstraints = NO;
-        [view.widthAnchor constraintEqualToConstant:ListPanelContent::kThumbnailSize].active = YES;
-        [view.heightAnchor constraintEqualToConstant:ListPanelContent::kThumbnailSize].active = YES;
-        [stack addArrangedSubview:view];
+        const CGFloat side = ListPanelContent::kThumbnailSize;
+        [stack addArrangedSubview:quorvane::fixSize(view, side, side)];
     }
 
     NSTextField* title = quorvane::makeLabel(row.title);
@@ -330,11 +313,7 @@ using quorvane::ListPanelRow;
     NSStackView* label = quorvane::makeRow(4);
     if (url != nil) {
         NSImage* icon = [[NSWorkspace sharedWorkspace] iconForFile:url.path];
-        NSImageView* view = [NSImageView imageViewWithImage:icon];
-        view.translatesAutoresizingMaskIntoConstraints = NO;
-        [view.widthAnchor constraintEqualToConstant:14].active = YES;
-        [view.heightAnchor constraintEqualToConstant:14].active = YES;
-        [label addArrangedSubview:view];
+        [label addArrangedSubview:quorvane::fixSize([NSImageView imageViewWithImage:icon], 14, 14)];
     }
     NSString* name = url != nil ? [[NSFileManager defaultManager] displayNameAtPath:url.path]
                                 : quorvane::text(bundleID);

@@ -102,8 +102,7 @@ using quorvane::TileGrid;
     [button setButtonType:NSButtonTypePushOnPushOff];
     button.state = quorvane::stateValue(tile.isOn);
     button.toolTip = quorvane::text(tile.status);
-    [button.widthAnchor constraintEqualToConstant:TileGrid::kTileWidth].active = YES;
-    [button.heightAnchor constraintEqualToConstant:TileGrid::kTileHeight].active = YES;
+    quorvane::fixSize(button, TileGrid::kTileWidth, TileGrid::kTileHeight);
     return button;
 }
 

@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "mac/MacFloatingWindow.hpp"
 #include "mac/MacFrameworks.h"
 #include "mac/MacStrings.hpp"
 #include "mac/MacViews.hpp"
@@ -18,13 +19,6 @@ namespace quorvane {
 
 namespace {
 
-NSView* fixedSize(NSView* view, double width, double height) {
-    view.translatesAutoresizingMaskIntoConstraints = NO;
-    [view.widthAnchor constraintEqualToConstant:width].active = YES;
-    [view.heightAnchor constraintEqualToConstant:height].active = YES;
-    return view;
-}
-
 NSView* makeLevelBar(const LevelBar& bar) {
     NSStackView* row = [[NSStackView alloc] init];
     row.orientation = NSUserInterfaceLayoutOrientationHorizontal;
@@ -32,7 +26,7 @@ NSView* makeLevelBar(const LevelBar& bar) {
     const int filled = bar.filledSegments();
     for (int index = 0; index < LevelBar::kSegments; ++index) {
         NSView* segment =
-            fixedSize([[NSView alloc] init], LevelBar::kSegmentWidth, LevelBar::kSegmentHeight);
+            fixSize([[NSView alloc] init], LevelBar::kSegmentWidth, LevelBar::kSegmentHeight);
         segment.wantsLayer = YES;
         segment.layer.cornerRadius = LevelBar::kCornerRadius;
         NSColor* color = [NSColor labelColor];
@@ -85,14 +79,8 @@ NSView* makeCard(const HUDCard& card) {
         [stack addArrangedSubview:makeLevelBar(LevelBar{*card.level})];
     }
 
-    NSVisualEffectView* background = [[NSVisualEffectView alloc] init];
-    background.material = NSVisualEffectMaterialPopover;
-    background.blendingMode = NSVisualEffectBlendingModeBehindWindow;
-    background.state = NSVisualEffectStateActive;
-    background.wantsLayer = YES;
-    background.layer.cornerRadius = HUDCard::kCornerRadius;
+    NSVisualEffectView* background = makeMaterialBackground(HUDCard::kCornerRadius);
     background.layer.cornerCurve = kCACornerCurveContinuous;
-    background.layer.masksToBounds = YES;
     [background addSubview:stack];
     pinEdges(stack, background, 0);
     [background.widthAnchor constraintEqualToConstant:HUDCard::kWidth].active = YES;
@@ -108,19 +96,10 @@ class MacPanel final : public Panel {
 public:
     MacPanel() {
         // Non-activating (style mask 128): showing it never takes focus from the user's app.
-        panel_ = [[NSPanel alloc] initWithContentRect:NSZeroRect
-                                            styleMask:NSWindowStyleMaskNonactivatingPanel
-                                              backing:NSBackingStoreBuffered
-                                                defer:NO];
-        panel_.level = NSStatusWindowLevel;
-        panel_.opaque = NO;
-        panel_.backgroundColor = [NSColor clearColor];
-        panel_.hasShadow = NO;
-        panel_.ignoresMouseEvents = YES;
-        panel_.releasedWhenClosed = NO;
-        // A panel hides when its app deactivates by default; Quorvane is an accessory app that is
-        // almost never active, so the card would vanish at once or never show.
-        panel_.hidesOnDeactivate = NO;
+        panel_ =
+            makeFloatingWindow([NSPanel class], NSZeroRect, NSWindowStyleMaskNonactivatingPanel,
+                               NSStatusWindowLevel, [NSColor clearColor]);
+        makeClickThrough(panel_);
         // 337: on every Space, stationary, out of window cycling, over full-screen apps.
         panel_.collectionBehavior =
             NSWindowCollectionBehaviorCanJoinAllSpaces | NSWindowCollectionBehaviorStationary |

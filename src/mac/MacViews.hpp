@@ -30,6 +30,11 @@ NSImage* makeSymbolImage(std::string_view systemImage, std::string_view descript
 // The Finder's icon of a file or bundle, `size` points square.
 NSImageView* makeFileIcon(std::string_view path, CGFloat size);
 
+// Pins the view to one size, `width` by `height` points; answers the view.
+NSView* fixSize(NSView* view, CGFloat width, CGFloat height);
+// The frosted material of a popover behind a floating window's content, with rounded corners.
+NSVisualEffectView* makeMaterialBackground(CGFloat cornerRadius);
+
 // Stacks holding `views` in order.
 NSStackView* makeColumn(CGFloat spacing, NSArray<NSView*>* views = nil);
 NSStackView* makeRow(CGFloat spacing, NSArray<NSView*>* views = nil);

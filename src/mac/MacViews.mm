@@ -15,9 +15,9 @@
 
 // unconfirmed: check on a Mac first. Nothing in this file is in the fact sheet: NSTextField's
 // label constructors and text properties, NSFont, NSColor, NSImage's symbol constructor and
-// NSImageSymbolConfiguration, NSImageView, NSStackView, NSScrollView, NSButton's constructors
-// and state, the text field's cell, the layout anchors and dispatch_async on the main queue
-// are written from Apple's reference.
+// NSImageSymbolConfiguration, NSImageView, NSVisualEffectView, NSStackView, NSScrollView,
+// NSButton's constructors and state, the text field's cell, the layout anchors and dispatch_async
+// on the main queue are written from Apple's reference.
 namespace quorvane {
 
 NSColor* color(ColorRole role) {
@@ -105,8 +105,7 @@ NSImageView* makeFileIcon(std::string_view path, CGFloat size) {
     NSImage* icon = [[NSWorkspace sharedWorkspace] iconForFile:text(path)];
     icon.size = NSMakeSize(size, size);
     NSImageView* view = [NSImageView imageViewWithImage:icon];
-    [view.widthAnchor constraintEqualToConstant:size].active = YES;
-    [view.heightAnchor constraintEqualToConstant:size].active = YES;
+    fixSize(view, size, size);
     return view;
 }
 
@@ -114,6 +113,24 @@ NSImageView* makeSymbol(std::string_view systemImage, CGFloat pointSize, ColorRo
     NSImageView* view = makeSymbol(systemImage, pointSize);
     view.contentTintColor = color(tint);
     return view;
+}
+
+NSView* fixSize(NSView* view, CGFloat width, CGFloat height) {
+    view.translatesAutoresizingMaskIntoConstraints = NO;
+    [view.widthAnchor constraintEqualToConstant:width].active = YES;
+    [view.heightAnchor constraintEqualToConstant:height].active = YES;
+    return view;
+}
+
+NSVisualEffectView* makeMaterialBackground(CGFloat cornerRadius) {
+    NSVisualEffectView* background = [[NSVisualEffectView alloc] init];
+    background.material = NSVisualEffectMaterialPopover;
+    background.blendingMode = NSVisualEffectBlendingModeBehindWindow;
+    background.state = NSVisualEffectStateActive;
+    background.wantsLayer = YES;
+    background.layer.cornerRadius = cornerRadius;
+    background.layer.masksToBounds = YES;
+    return background;
 }
 
 namespace {
