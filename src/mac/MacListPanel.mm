@@ -7,6 +7,7 @@
 #include <memory>
 #include <string>
 
+#include "base/CallIfSet.hpp"
 #include "mac/MacFloatingWindow.hpp"
 #include "mac/MacFrameworks.h"
 #include "mac/MacStrings.hpp"
@@ -60,8 +61,8 @@ using quorvane::ListPanelRow;
 - (void)mouseMoved:(NSEvent*)event {
     const NSPoint point = [self convertPoint:event.locationInWindow fromView:nil];
     const NSInteger row = [self rowAtPoint:point];
-    if (row >= 0 && self.onHover) {
-        self.onHover(row);
+    if (row >= 0) {
+        quorvane::callIfSet(self.onHover, row);
     }
 }
 @end
@@ -115,8 +116,8 @@ using quorvane::ListPanelRow;
                 usingBlock:^(NSNotification* note) {
                   (void)note;
                   QVListPanelController* strongSelf = weakSelf;
-                  if (strongSelf != nil && strongSelf->_handlers.resignedKey) {
-                      strongSelf->_handlers.resignedKey();
+                  if (strongSelf != nil) {
+                      quorvane::callIfSet(strongSelf->_handlers.resignedKey);
                   }
                 }];
     return self;
@@ -235,16 +236,14 @@ using quorvane::ListPanelRow;
 - (void)rowClicked:(id)sender {
     (void)sender;
     const NSInteger row = _table.clickedRow;
-    if (row >= 0 && _handlers.rowClicked) {
-        _handlers.rowClicked(static_cast<std::size_t>(row));
+    if (row >= 0) {
+        quorvane::callIfSet(_handlers.rowClicked, static_cast<std::size_t>(row));
     }
 }
 
 - (void)controlTextDidChange:(NSNotification*)notification {
     (void)notification;
-    if (_handlers.queryChanged) {
-        _handlers.queryChanged(quorvane::utf8String(_search.stringValue));
-    }
+    quorvane::callIfSet(_handlers.queryChanged, quorvane::utf8String(_search.stringValue));
 }
 
 - (NSInteger)numberOfRowsInTableView:(NSTableView*)tableView {
@@ -268,10 +267,8 @@ using quorvane::ListPanelRow;
     stack.edgeInsets = NSEdgeInsetsMake(0, 6, 0, 6);
     stack.wantsLayer = YES;
     stack.layer.cornerRadius = 6;
-    if (row.isSelected) {
-        stack.layer.backgroundColor =
-            [[NSColor controlAccentColor] colorWithAlphaComponent:0.25].CGColor;
-    }
+    stack.layer.backgroundColor =
+        [[NSColor controlAccentColor] colorWithAlphaComponent:row.highlightOpacity()].CGColor;
 
     NSTextField* number = quorvane::makeLabel(row.number);
     number.font = [NSFont monospacedDigitSystemFontOfSize:11 weight:NSFontWeightRegular];

@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "base/CallIfSet.hpp"
 #include "mac/MacFloatingWindow.hpp"
 #include "mac/MacFrameworks.h"
 #include "mac/MacStrings.hpp"
@@ -23,17 +24,13 @@ NSView* makeLevelBar(const LevelBar& bar) {
     NSStackView* row = [[NSStackView alloc] init];
     row.orientation = NSUserInterfaceLayoutOrientationHorizontal;
     row.spacing = LevelBar::kSpacing;
-    const int filled = bar.filledSegments();
     for (int index = 0; index < LevelBar::kSegments; ++index) {
         NSView* segment =
             fixSize([[NSView alloc] init], LevelBar::kSegmentWidth, LevelBar::kSegmentHeight);
         segment.wantsLayer = YES;
         segment.layer.cornerRadius = LevelBar::kCornerRadius;
-        NSColor* color = [NSColor labelColor];
-        if (index >= filled) {
-            color = [color colorWithAlphaComponent:LevelBar::kUnfilledOpacity];
-        }
-        segment.layer.backgroundColor = color.CGColor;
+        segment.layer.backgroundColor =
+            [[NSColor labelColor] colorWithAlphaComponent:bar.segmentOpacity(index)].CGColor;
         [row addArrangedSubview:segment];
     }
     return row;
@@ -139,8 +136,8 @@ public:
               panel.animator.alphaValue = alpha;
             }
             completionHandler:^{
-              if (*alive && completion) {
-                  completion();
+              if (*alive) {
+                  callIfSet(completion);
               }
             }];
     }
