@@ -150,11 +150,8 @@ struct AppState {
 // Opening Quorvane again while it runs (from Finder or Spotlight) shows its settings: with
 // the menu-bar item hidden or crowded out, that is the way back in.
 - (BOOL)applicationShouldHandleReopen:(NSApplication*)sender hasVisibleWindows:(BOOL)flag {
-    (void)sender;
     (void)flag;
-    if (_state) {
-        _state->lifecycle.showSettings();
-    }
+    [self showSettings:sender];
     return NO;
 }
 

@@ -2,18 +2,39 @@
 
 #include "mac/MacFrameworks.h"
 
+// unconfirmed: check on a Mac first. Of the AppKit below only the window's initializer, its
+// style masks, backing and window levels are in the fact sheet; opaque, backgroundColor,
+// releasedWhenClosed, hidesOnDeactivate, hasShadow and ignoresMouseEvents were written from
+// Apple's reference.
 namespace quorvane {
 
 // A window of `windowClass` (NSWindow, NSPanel or a subclass of either) that draws nothing of
 // its own: see-through wherever its content and `background` leave it, at `level` (an
 // NSWindowLevel), and kept when closed so it can be shown again. `style` adds to borderless (a
-// non-activating panel). The notice card, the shade and the floating list are made this way; the
-// area selection of a screen capture can be too.
-__kindof NSWindow* makeFloatingWindow(Class windowClass, NSRect frame, NSWindowStyleMask style,
-                                      NSInteger level, NSColor* background);
+// non-activating panel). The notice card, the shade and the floating list are made this way;
+// the area selection of a screen capture can be too.
+inline __kindof NSWindow* makeFloatingWindow(Class windowClass, NSRect frame,
+                                             NSWindowStyleMask style, NSInteger level,
+                                             NSColor* background) {
+    NSWindow* window = [[windowClass alloc] initWithContentRect:frame
+                                                      styleMask:NSWindowStyleMaskBorderless | style
+                                                        backing:NSBackingStoreBuffered
+                                                          defer:NO];
+    window.opaque = NO;
+    window.backgroundColor = background;
+    window.level = level;
+    window.releasedWhenClosed = NO;
+    // A panel hides when its app deactivates by default; Quorvane is an accessory app that is
+    // almost never active, so a panel would vanish at once or never show.
+    window.hidesOnDeactivate = NO;
+    return window;
+}
 
 // For a window that only shows something: clicks go through it to the windows below, and it
 // casts no shadow on them.
-void makeClickThrough(NSWindow* window);
+inline void makeClickThrough(NSWindow* window) {
+    window.hasShadow = NO;
+    window.ignoresMouseEvents = YES;
+}
 
 }  // namespace quorvane

@@ -309,8 +309,7 @@ using quorvane::ListPanelRow;
         URLForApplicationWithBundleIdentifier:quorvane::text(bundleID)];
     NSStackView* label = quorvane::makeRow(4);
     if (url != nil) {
-        NSImage* icon = [[NSWorkspace sharedWorkspace] iconForFile:url.path];
-        [label addArrangedSubview:quorvane::fixSize([NSImageView imageViewWithImage:icon], 14, 14)];
+        [label addArrangedSubview:quorvane::makeFileIcon(quorvane::utf8String(url.path), 14)];
     }
     NSString* name = url != nil ? [[NSFileManager defaultManager] displayNameAtPath:url.path]
                                 : quorvane::text(bundleID);

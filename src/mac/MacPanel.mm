@@ -58,16 +58,14 @@ NSView* makeCard(const HUDCard& card) {
     // Headline and detail each wrap within the card rather than being clipped to one line.
     const CGFloat textWidth = HUDCard::kWidth - 2 * HUDCard::kPadding;
     const NoticeLines lines = noticeLines(card.title);
-    NSTextField* headline = [NSTextField wrappingLabelWithString:text(lines.headline)];
+    NSTextField* headline = makeWrappingLabel(lines.headline, textWidth);
     headline.font = [NSFont preferredFontForTextStyle:NSFontTextStyleHeadline options:@{}];
     headline.alignment = NSTextAlignmentCenter;
-    headline.preferredMaxLayoutWidth = textWidth;
     [stack addArrangedSubview:headline];
-    NSTextField* detail = [NSTextField wrappingLabelWithString:text(lines.detail)];
+    NSTextField* detail = makeWrappingLabel(lines.detail, textWidth);
     detail.font = [NSFont preferredFontForTextStyle:NSFontTextStyleSubheadline options:@{}];
     detail.textColor = [NSColor secondaryLabelColor];
     detail.alignment = NSTextAlignmentCenter;
-    detail.preferredMaxLayoutWidth = textWidth;
     // A stack view leaves hidden views out of its layout.
     detail.hidden = lines.detail.empty();
     [stack addArrangedSubview:detail];

@@ -114,13 +114,11 @@ struct PageState {
                 return quorvane::makeSecondaryLabel(note.text, _width);
             },
             [&](const Row::Warning& warning) -> NSView* {
-                NSTextField* label = quorvane::makeWrappingLabel(warning.current(), _width - 24);
-                if (warning.read) {
-                    const Row::Warning* shown = &warning;
-                    [_updates addObject:^{
-                      label.stringValue = quorvane::text(shown->read());
-                    }];
-                }
+                NSTextField* label = quorvane::makeWrappingLabel("", _width - 24);
+                const Row::Warning* shown = &warning;
+                [_updates addObject:^{
+                  label.stringValue = quorvane::text(shown->current());
+                }];
                 return quorvane::makeWarning(label);
             },
             [&](const Row::Button& button) { return [self buttonRow:&button]; },
