@@ -213,9 +213,7 @@ struct PageState {
                                                            quorvane::callIfSet(field->set, text);
                                                          });
     [_updates addObject:^{
-      if (field->get) {
-          quorvane::showUnlessEditing(control, field->get());
-      }
+      quorvane::showUnlessEditing(control, quorvane::currentText(*field));
     }];
     return quorvane::makeRow(8, @[ quorvane::makeLabel(field->label), control ]);
 }

@@ -64,6 +64,10 @@ std::string valueText(const SettingsRow::Stepper& stepper, std::int64_t value) {
     return stepper.format ? stepper.format(value) : std::to_string(value);
 }
 
+std::string currentText(const SettingsRow::TextField& field) {
+    return field.get ? field.get() : std::string();
+}
+
 int tickMarkCount(const SettingsRow::Slider& slider) {
     if (!(slider.step > 0) || !(slider.maximum > slider.minimum)) {
         return 0;

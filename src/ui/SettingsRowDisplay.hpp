@@ -43,6 +43,7 @@ std::string valueText(const SettingsRow::Slider& slider, double value);
 // Up to six significant digits, without trailing zeros: 0.5, 12, 1e+06.
 std::string plainNumber(double value);
 std::string valueText(const SettingsRow::Stepper& stepper, std::int64_t value);
+std::string currentText(const SettingsRow::TextField& field);
 
 // The tick marks under a slider that moves in steps, one per reachable value; 0 for a
 // continuous slider.

@@ -86,6 +86,7 @@ TEST(SettingsRowDisplayTest, UnboundRowsReadAsOffOrTheirMinimumAndStoreNothing) 
     EXPECT_EQ(currentValue(slider), -12);
     SettingsRow::Stepper stepper{"Count", 3, 9, 1, nullptr, nullptr, nullptr};
     EXPECT_EQ(currentValue(stepper), 3);
+    EXPECT_EQ(currentText(SettingsRow::TextField{"Name", "", nullptr, nullptr}), "");
 
     SettingsRow::Choice unbound = presetChoice("rock");
     chooseItem(unbound, 0);  // no setter: nothing happens, nothing breaks
