@@ -257,18 +257,16 @@ struct PageState {
 
 // A list of one line per entry, read again on every refresh, each entry with a remove button
 // when it has a remove action.
-- (NSView*)listTitled:(const std::string&)label
-                empty:(const std::string&)emptyText
-                lines:(std::function<std::vector<quorvane::ListLine>()>)read
-                extra:(NSView*)extra {
+- (NSView*)list:(const quorvane::ListDisplay&)list extra:(NSView*)extra {
     NSStackView* lines = quorvane::makeColumn(2);
-    NSStackView* column = quorvane::makeColumn(4, @[ quorvane::makeLabel(label), lines ]);
+    NSStackView* column = quorvane::makeColumn(4, @[ quorvane::makeLabel(list.label), lines ]);
     if (extra) {
         [column addArrangedSubview:extra];
     }
     NSMutableArray* lineTargets = [NSMutableArray array];
     const CGFloat width = _width;
-    const std::string empty = emptyText;
+    const std::string empty = list.emptyText;
+    const auto read = list.lines;
     [_updates addObject:^{
       quorvane::removeArrangedViews(lines);
       [lineTargets removeAllObjects];
@@ -314,17 +312,11 @@ struct PageState {
           NSBeep();
       }
     });
-    return [self listTitled:list->label
-                      empty:list->emptyText
-                      lines:[list] { return quorvane::listLines(*list); }
-                      extra:add];
+    return [self list:quorvane::listDisplay(*list) extra:add];
 }
 
 - (NSView*)itemListRow:(const Row::ItemList*)list {
-    return [self listTitled:list->label
-                      empty:list->emptyText
-                      lines:[list] { return quorvane::listLines(*list); }
-                      extra:nil];
+    return [self list:quorvane::listDisplay(*list) extra:nil];
 }
 
 // One line per entry, rebuilt only when the number of entries changes: rebuilding under the

@@ -114,6 +114,14 @@ std::vector<ListLine> listLines(const SettingsRow::ItemList& list) {
     return lines;
 }
 
+ListDisplay listDisplay(const SettingsRow::AppList& list) {
+    return {list.label, list.emptyText, [&list] { return listLines(list); }};
+}
+
+ListDisplay listDisplay(const SettingsRow::ItemList& list) {
+    return {list.label, list.emptyText, [&list] { return listLines(list); }};
+}
+
 std::optional<std::size_t> moveTarget(std::size_t index, std::size_t count, int offset) {
     const auto target = static_cast<std::ptrdiff_t>(index) + offset;
     if (index >= count || target < 0 || static_cast<std::size_t>(target) >= count) {

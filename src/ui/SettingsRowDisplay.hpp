@@ -63,6 +63,15 @@ struct ListLine {
 };
 std::vector<ListLine> listLines(const SettingsRow::AppList& list);
 std::vector<ListLine> listLines(const SettingsRow::ItemList& list);
+// Either kind of list as one renderer draws it: its label, the text shown while it is empty,
+// and its lines, read again on every refresh. The row must outlive the reader.
+struct ListDisplay {
+    std::string label;
+    std::string emptyText;
+    std::function<std::vector<ListLine>()> lines;
+};
+ListDisplay listDisplay(const SettingsRow::AppList& list);
+ListDisplay listDisplay(const SettingsRow::ItemList& list);
 
 // Where an editable list's entry goes when moved `offset` places; nothing past either end.
 std::optional<std::size_t> moveTarget(std::size_t index, std::size_t count, int offset);

@@ -153,6 +153,9 @@ TEST(SettingsRowDisplayTest, ListLinesNameTheirEntryAndRemoveThatEntry) {
     lines[0].remove();
     EXPECT_EQ(removedItems, (std::vector<std::size_t>{2, 0}));
 
+    const ListDisplay display = listDisplay(items);
+    items.items = [] { return std::vector<std::string>{"only"}; };
+    EXPECT_EQ(display.lines().size(), 1u) << "a drawn list reads the row's items when refreshed";
     items.remove = nullptr;
     EXPECT_FALSE(listLines(items)[0].remove) << "fixed lists show no remove buttons";
     EXPECT_TRUE(listLines(SettingsRow::ItemList{}).empty());
