@@ -39,7 +39,6 @@ constexpr CGFloat kPageWidth = 520;
     NSMutableArray* _targets;
     NSMutableArray* _headerTargets;
     NSMutableArray* _cardTargets;
-    quorvane::CardAction _performCard;
     BOOL _reloadingSidebar;
 }
 
@@ -64,10 +63,6 @@ constexpr CGFloat kPageWidth = 520;
     _targets = [NSMutableArray array];
     _headerTargets = [NSMutableArray array];
     _cardTargets = [NSMutableArray array];
-    Model* target = _model;
-    _performCard = ^(quorvane::Permission permission, quorvane::PermissionCard::Action action) {
-      target->performCardAction(permission, action);
-    };
 
     // The sidebar keeps its width; the page takes the rest, and both the full height.
     NSView* sidebar = [self makeSidebar];
@@ -159,8 +154,7 @@ constexpr CGFloat kPageWidth = 520;
     quorvane::showUnlessEditing(_search, _model->query());
 
     [self rebuildHeader];
-    quorvane::fillPermissionCards(_cards, _model->cards(), _model->cardNotice(), _performCard,
-                                  _cardTargets, kPageWidth);
+    quorvane::fillPermissionCards(_cards, *_model, _cardTargets, kPageWidth);
     if (_model->pageGeneration() != _pageGeneration) {
         _pageGeneration = _model->pageGeneration();
         [self stopRecording];
