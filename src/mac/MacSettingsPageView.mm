@@ -241,13 +241,11 @@ struct PageState {
       clear.hidden = !quorvane::showsClearButton(*shortcut);
       conflict.hidden = !quorvane::showsConflict(*shortcut);
     }];
-    NSStackView* line = quorvane::makeRow(8);
-    if (!shortcut->symbol.empty()) {
-        [line addArrangedSubview:quorvane::makeSymbol(shortcut->symbol, 15)];
-    }
-    for (NSView* view in @[ quorvane::makeLabel(shortcut->label), record, clear ]) {
-        [line addArrangedSubview:view];
-    }
+    NSImageView* symbol = quorvane::makeSymbol(shortcut->symbol, 15);
+    // Stack views leave hidden views out of the layout.
+    symbol.hidden = shortcut->symbol.empty();
+    NSStackView* line =
+        quorvane::makeRow(8, @[ symbol, quorvane::makeLabel(shortcut->label), record, clear ]);
     return quorvane::makeColumn(2, @[ line, conflict ]);
 }
 
