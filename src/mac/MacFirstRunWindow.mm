@@ -86,8 +86,7 @@ constexpr CGFloat kWidth = 520;
 - (void)refresh {
     _permissionsIntro.stringValue = quorvane::text(_model->permissionsIntro());
     quorvane::fillPermissionCards(_cards, *_model, _cardTargets, kWidth);
-    quorvane::removeArrangedViews(_suggestions);
-    [_suggestionTargets removeAllObjects];
+    quorvane::removeArrangedViews(_suggestions, _suggestionTargets);
     const auto suggestions = _model->suggestions();
     if (suggestions.empty()) {
         [_suggestions

@@ -70,8 +70,7 @@ using quorvane::TileGrid;
 }
 
 - (void)rebuildTiles {
-    quorvane::removeArrangedViews(_grid);
-    [_tileTargets removeAllObjects];
+    quorvane::removeArrangedViews(_grid, _tileTargets);
     const auto tiles = _model->tiles();
     if (tiles.empty()) {
         [_grid addArrangedSubview:quorvane::makeSecondaryLabel(quorvane::MenuModel::kEmptyText,

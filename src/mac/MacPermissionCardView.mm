@@ -48,8 +48,7 @@ NSView* makePermissionCardView(const PermissionCard& card, PermissionCardSource&
 
 void fillPermissionCards(NSStackView* stack, PermissionCardSource& source, NSMutableArray* keep,
                          CGFloat width) {
-    removeArrangedViews(stack);
-    [keep removeAllObjects];
+    removeArrangedViews(stack, keep);
     for (const auto& card : source.cards()) {
         [stack addArrangedSubview:makePermissionCardView(card, source, keep, width)];
     }

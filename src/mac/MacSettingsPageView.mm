@@ -266,8 +266,7 @@ struct PageState {
     const std::string empty = list.emptyText;
     const auto read = list.lines;
     [_updates addObject:^{
-      quorvane::removeArrangedViews(lines);
-      [lineTargets removeAllObjects];
+      quorvane::removeArrangedViews(lines, lineTargets);
       const auto entries = read();
       if (entries.empty()) {
           [lines addArrangedSubview:quorvane::makeSecondaryLabel(empty, width)];
@@ -333,8 +332,7 @@ struct PageState {
     [_updates addObject:^{
       const auto entries = quorvane::editableEntries(*list);
       if (entries.size() != lineUpdates.count) {
-          quorvane::removeArrangedViews(lines);
-          [lineTargets removeAllObjects];
+          quorvane::removeArrangedViews(lines, lineTargets);
           [lineUpdates removeAllObjects];
           for (std::size_t index = 0; index < entries.size(); ++index) {
               const auto actions = quorvane::editableLineActions(*list, index, entries.size());

@@ -167,8 +167,7 @@ constexpr CGFloat kPageWidth = 520;
 }
 
 - (void)rebuildHeader {
-    quorvane::removeArrangedViews(_header);
-    [_headerTargets removeAllObjects];
+    quorvane::removeArrangedViews(_header, _headerTargets);
     const Model::Header header = _model->header();
     Model* model = _model;
 

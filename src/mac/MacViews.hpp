@@ -38,7 +38,8 @@ NSVisualEffectView* makeMaterialBackground(CGFloat cornerRadius);
 // Stacks holding `views` in order.
 NSStackView* makeColumn(CGFloat spacing, NSArray<NSView*>* views = nil);
 NSStackView* makeRow(CGFloat spacing, NSArray<NSView*>* views = nil);
-void removeArrangedViews(NSStackView* stack);
+// Also empties `keep`, the targets of the controls among them, when given.
+void removeArrangedViews(NSStackView* stack, NSMutableArray* keep = nil);
 // A vertical scroller whose content starts at the top and is as wide as the visible area.
 NSScrollView* makeScrollView(NSView* content, CGFloat inset);
 void pinEdges(NSView* view, NSView* container, CGFloat inset);

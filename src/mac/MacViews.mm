@@ -156,7 +156,8 @@ NSStackView* makeRow(CGFloat spacing, NSArray<NSView*>* views) {
                      views);
 }
 
-void removeArrangedViews(NSStackView* stack) {
+void removeArrangedViews(NSStackView* stack, NSMutableArray* keep) {
+    [keep removeAllObjects];
     // Removing a view from its superview also takes it out of the arranged views.
     for (NSView* view in [stack.arrangedSubviews copy]) {
         [view removeFromSuperview];
