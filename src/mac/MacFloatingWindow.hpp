@@ -8,11 +8,8 @@
 // Apple's reference.
 namespace quorvane {
 
-// A window of `windowClass` (NSWindow, NSPanel or a subclass of either) that draws nothing of
-// its own: see-through wherever its content and `background` leave it, at `level` (an
-// NSWindowLevel), and kept when closed so it can be shown again. `style` adds to borderless (a
-// non-activating panel). The notice card, the shade and the floating list are made this way;
-// the area selection of a screen capture can be too.
+// A borderless window of `windowClass` (an NSWindow or NSPanel class), see-through where its
+// content and `background` leave it, at `level` (an NSWindowLevel), kept when closed.
 inline __kindof NSWindow* makeFloatingWindow(Class windowClass, NSRect frame,
                                              NSWindowStyleMask style, NSInteger level,
                                              NSColor* background) {
