@@ -1,8 +1,11 @@
 #include "mac/AppDelegate.hpp"
 
 #include <memory>
+#include <string>
+#include <vector>
 
 #include "app/AppLifecycle.hpp"
+#include "app/OpenDocuments.hpp"
 #include "app/ToolCatalog.hpp"
 #include "mac/MacFrameworks.h"
 #include "mac/MacPorts.hpp"
@@ -14,8 +17,6 @@
 #include "ui/MenuModel.hpp"
 #include "input/InputServices.hpp"
 #include "portable/SystemArchives.hpp"
-#include "app/ToolRegistry.hpp"
-#include "tools/system/ArchivesTool.hpp"
 
 namespace quorvane {
 
@@ -150,11 +151,8 @@ struct AppState {
 // Opening Quorvane again while it runs (from Finder or Spotlight) shows its settings: with
 // the menu-bar item hidden or crowded out, that is the way back in.
 - (BOOL)applicationShouldHandleReopen:(NSApplication*)sender hasVisibleWindows:(BOOL)flag {
-    (void)sender;
     (void)flag;
-    if (_state) {
-        _state->lifecycle.showSettings();
-    }
+    [self showSettings:sender];
     return NO;
 }
 
@@ -192,22 +190,17 @@ struct AppState {
     NSApp.mainMenu = main;
 }
 
-// Archives the app declares as documents, opened from Finder: the archives tool extracts each
-// beside itself, and says why not on its page when it is off or one is refused.
+// Archives the app declares as documents, opened from Finder.
 // unconfirmed: check on a Mac first (-application:openURLs: is written from Apple's reference).
 - (void)application:(NSApplication*)application openURLs:(NSArray<NSURL*>*)urls {
     (void)application;
-    auto* registry = _state ? _state->lifecycle.registry() : nullptr;
-    auto* tool =
-        registry ? dynamic_cast<quorvane::ArchivesTool*>(registry->tool("archives")) : nullptr;
-    if (!tool) {
-        return;
-    }
+    std::vector<std::string> paths;
     for (NSURL* url in urls) {
         if (url.isFileURL) {
-            tool->open(quorvane::utf8String(url.path));
+            paths.push_back(quorvane::utf8String(url.path));
         }
     }
+    quorvane::openDocuments(_state ? _state->lifecycle.registry() : nullptr, paths);
 }
 
 - (void)showSettings:(id)sender {

@@ -1,5 +1,7 @@
 #include "mac/MacActionTarget.hpp"
 
+#include "base/CallIfSet.hpp"
+
 // unconfirmed: check on a Mac first (NSControl's target and action properties are not in the
 // fact sheet).
 @implementation QVActionTarget {
@@ -22,9 +24,7 @@
     // and its block while they run; the strong locals keep both alive until the call returns.
     QVActionTarget* keepAlive = self;
     void (^handler)(id) = _handler;
-    if (handler) {
-        handler(sender);
-    }
+    quorvane::callIfSet(handler, sender);
     (void)keepAlive;
 }
 

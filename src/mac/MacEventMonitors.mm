@@ -6,6 +6,7 @@
 #include "mac/CancellableHandler.hpp"
 #include "mac/MacEvent.hpp"
 #include "mac/MacFrameworks.h"
+#include "mac/MacMonitorSubscription.hpp"
 
 namespace quorvane {
 
@@ -28,13 +29,7 @@ public:
                                                          MacEvent::borrow(event.CGEvent, event);
                                                      running->handler(wrapped);
                                                    }];
-        if (!token) {
-            return {};
-        }
-        return Subscription([monitor, token] {
-            monitor->cancelled = true;
-            [NSEvent removeMonitor:token];
-        });
+        return monitorSubscription(monitor, token);
     }
 
     [[nodiscard]] Subscription addLocal(std::uint64_t mask, LocalHandler handler) override {
@@ -53,13 +48,7 @@ public:
                                                     // nil stops the event: it is never dispatched.
                                                     return running->handler(wrapped) ? event : nil;
                                                   }];
-        if (!token) {
-            return {};
-        }
-        return Subscription([monitor, token] {
-            monitor->cancelled = true;
-            [NSEvent removeMonitor:token];
-        });
+        return monitorSubscription(monitor, token);
     }
 };
 

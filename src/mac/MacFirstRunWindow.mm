@@ -27,7 +27,6 @@ constexpr CGFloat kWidth = 520;
     NSMutableArray* _targets;
     NSMutableArray* _cardTargets;
     NSMutableArray* _suggestionTargets;
-    quorvane::CardAction _performCard;
 }
 
 - (instancetype)initWithModel:(Model&)model {
@@ -48,9 +47,6 @@ constexpr CGFloat kWidth = 520;
     _cardTargets = [NSMutableArray array];
     _suggestionTargets = [NSMutableArray array];
     Model* target = _model;
-    _performCard = ^(quorvane::Permission permission, quorvane::PermissionCard::Action action) {
-      target->performCardAction(permission, action);
-    };
     window.delegate = self;
 
     _cards = quorvane::makeColumn(12);
@@ -89,10 +85,8 @@ constexpr CGFloat kWidth = 520;
 
 - (void)refresh {
     _permissionsIntro.stringValue = quorvane::text(_model->permissionsIntro());
-    quorvane::fillPermissionCards(_cards, _model->cards(), _model->cardNotice(), _performCard,
-                                  _cardTargets, kWidth);
-    quorvane::removeArrangedViews(_suggestions);
-    [_suggestionTargets removeAllObjects];
+    quorvane::fillPermissionCards(_cards, *_model, _cardTargets, kWidth);
+    quorvane::removeArrangedViews(_suggestions, _suggestionTargets);
     const auto suggestions = _model->suggestions();
     if (suggestions.empty()) {
         [_suggestions

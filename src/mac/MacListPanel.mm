@@ -7,6 +7,8 @@
 #include <memory>
 #include <string>
 
+#include "base/CallIfSet.hpp"
+#include "mac/MacFloatingWindow.hpp"
 #include "mac/MacFrameworks.h"
 #include "mac/MacStrings.hpp"
 #include "mac/MacViews.hpp"
@@ -59,8 +61,8 @@ using quorvane::ListPanelRow;
 - (void)mouseMoved:(NSEvent*)event {
     const NSPoint point = [self convertPoint:event.locationInWindow fromView:nil];
     const NSInteger row = [self rowAtPoint:point];
-    if (row >= 0 && self.onHover) {
-        self.onHover(row);
+    if (row >= 0) {
+        quorvane::callIfSet(self.onHover, row);
     }
 }
 @end
@@ -94,23 +96,15 @@ using quorvane::ListPanelRow;
     }
     _handlers = std::move(handlers);
     const NSRect size = NSMakeRect(0, 0, ListPanelContent::kWidth, ListPanelContent::kHeight);
-    _panel = [[QVKeyablePanel alloc]
-        initWithContentRect:size
-                  styleMask:NSWindowStyleMaskBorderless | NSWindowStyleMaskNonactivatingPanel
-                    backing:NSBackingStoreBuffered
-                      defer:NO];
     // A pop-up list over other apps' windows, on the Space and full-screen app in use.
-    _panel.level = NSPopUpMenuWindowLevel;
+    _panel = quorvane::makeFloatingWindow([QVKeyablePanel class], size,
+                                          NSWindowStyleMaskNonactivatingPanel,
+                                          NSPopUpMenuWindowLevel, [NSColor clearColor]);
     _panel.collectionBehavior = NSWindowCollectionBehaviorCanJoinAllSpaces |
                                 NSWindowCollectionBehaviorTransient |
                                 NSWindowCollectionBehaviorFullScreenAuxiliary;
     _panel.alphaValue = 1;
-    _panel.opaque = NO;
     _panel.hasShadow = YES;
-    _panel.backgroundColor = [NSColor clearColor];
-    // Quorvane is almost never the active app, so hiding on deactivation would hide at once.
-    _panel.hidesOnDeactivate = NO;
-    _panel.releasedWhenClosed = NO;
     _panel.acceptsMouseMovedEvents = YES;
     [self buildViews];
 
@@ -122,8 +116,8 @@ using quorvane::ListPanelRow;
                 usingBlock:^(NSNotification* note) {
                   (void)note;
                   QVListPanelController* strongSelf = weakSelf;
-                  if (strongSelf != nil && strongSelf->_handlers.resignedKey) {
-                      strongSelf->_handlers.resignedKey();
+                  if (strongSelf != nil) {
+                      quorvane::callIfSet(strongSelf->_handlers.resignedKey);
                   }
                 }];
     return self;
@@ -135,13 +129,8 @@ using quorvane::ListPanelRow;
 }
 
 - (void)buildViews {
-    NSVisualEffectView* background = [[NSVisualEffectView alloc] init];
-    background.material = NSVisualEffectMaterialPopover;
-    background.blendingMode = NSVisualEffectBlendingModeBehindWindow;
-    background.state = NSVisualEffectStateActive;
-    background.wantsLayer = YES;
-    background.layer.cornerRadius = ListPanelContent::kCornerRadius;
-    background.layer.masksToBounds = YES;
+    NSVisualEffectView* background =
+        quorvane::makeMaterialBackground(ListPanelContent::kCornerRadius);
 
     _search = [NSTextField textFieldWithString:@""];
     _search.delegate = self;
@@ -188,12 +177,9 @@ using quorvane::ListPanelRow;
         view.translatesAutoresizingMaskIntoConstraints = NO;
         [content addSubview:view];
     }
+    quorvane::pinEdges(background, content, 0);
     const CGFloat pad = ListPanelContent::kPadding;
     [NSLayoutConstraint activateConstraints:@[
-        [background.leadingAnchor constraintEqualToAnchor:content.leadingAnchor],
-        [background.trailingAnchor constraintEqualToAnchor:content.trailingAnchor],
-        [background.topAnchor constraintEqualToAnchor:content.topAnchor],
-        [background.bottomAnchor constraintEqualToAnchor:content.bottomAnchor],
         [_search.topAnchor constraintEqualToAnchor:content.topAnchor constant:pad],
         [_search.leadingAnchor constraintEqualToAnchor:content.leadingAnchor constant:pad],
         [_search.trailingAnchor constraintEqualToAnchor:content.trailingAnchor constant:-pad],
@@ -250,16 +236,14 @@ using quorvane::ListPanelRow;
 - (void)rowClicked:(id)sender {
     (void)sender;
     const NSInteger row = _table.clickedRow;
-    if (row >= 0 && _handlers.rowClicked) {
-        _handlers.rowClicked(static_cast<std::size_t>(row));
+    if (row >= 0) {
+        quorvane::callIfSet(_handlers.rowClicked, static_cast<std::size_t>(row));
     }
 }
 
 - (void)controlTextDidChange:(NSNotification*)notification {
     (void)notification;
-    if (_handlers.queryChanged) {
-        _handlers.queryChanged(quorvane::utf8String(_search.stringValue));
-    }
+    quorvane::callIfSet(_handlers.queryChanged, quorvane::utf8String(_search.stringValue));
 }
 
 - (NSInteger)numberOfRowsInTableView:(NSTableView*)tableView {
@@ -283,10 +267,8 @@ using quorvane::ListPanelRow;
     stack.edgeInsets = NSEdgeInsetsMake(0, 6, 0, 6);
     stack.wantsLayer = YES;
     stack.layer.cornerRadius = 6;
-    if (row.isSelected) {
-        stack.layer.backgroundColor =
-            [[NSColor controlAccentColor] colorWithAlphaComponent:0.25].CGColor;
-    }
+    stack.layer.backgroundColor =
+        [[NSColor controlAccentColor] colorWithAlphaComponent:row.highlightOpacity()].CGColor;
 
     NSTextField* number = quorvane::makeLabel(row.number);
     number.font = [NSFont monospacedDigitSystemFontOfSize:11 weight:NSFontWeightRegular];
@@ -305,10 +287,8 @@ using quorvane::ListPanelRow;
     if (image != nil) {
         NSImageView* view = [NSImageView imageViewWithImage:image];
         view.imageScaling = NSImageScaleProportionallyUpOrDown;
-        view.translatesAutoresizingMaskIntoConstraints = NO;
-        [view.widthAnchor constraintEqualToConstant:ListPanelContent::kThumbnailSize].active = YES;
-        [view.heightAnchor constraintEqualToConstant:ListPanelContent::kThumbnailSize].active = YES;
-        [stack addArrangedSubview:view];
+        const CGFloat side = ListPanelContent::kThumbnailSize;
+        [stack addArrangedSubview:quorvane::fixSize(view, side, side)];
     }
 
     NSTextField* title = quorvane::makeLabel(row.title);
@@ -329,12 +309,7 @@ using quorvane::ListPanelRow;
         URLForApplicationWithBundleIdentifier:quorvane::text(bundleID)];
     NSStackView* label = quorvane::makeRow(4);
     if (url != nil) {
-        NSImage* icon = [[NSWorkspace sharedWorkspace] iconForFile:url.path];
-        NSImageView* view = [NSImageView imageViewWithImage:icon];
-        view.translatesAutoresizingMaskIntoConstraints = NO;
-        [view.widthAnchor constraintEqualToConstant:14].active = YES;
-        [view.heightAnchor constraintEqualToConstant:14].active = YES;
-        [label addArrangedSubview:view];
+        [label addArrangedSubview:quorvane::makeFileIcon(quorvane::utf8String(url.path), 14)];
     }
     NSString* name = url != nil ? [[NSFileManager defaultManager] displayNameAtPath:url.path]
                                 : quorvane::text(bundleID);

@@ -10,6 +10,7 @@
 #include "mac/MacActionTarget.hpp"
 #include "mac/MacFrameworks.h"
 #include "mac/MacMenuPanelView.hpp"
+#include "mac/MacMonitorSubscription.hpp"
 #include "mac/MacObservation.hpp"
 #include "mac/MacPanelPageView.hpp"
 #include "mac/MacViews.hpp"
@@ -192,13 +193,7 @@ public:
                                                        run(callback);
                                                      });
                                                    }];
-        if (!monitor) {
-            return {};
-        }
-        return Subscription([callback, monitor] {
-            callback->cancelled = true;
-            [NSEvent removeMonitor:monitor];
-        });
+        return monitorSubscription(callback, monitor);
     }
 
     void activateApplication() override { [NSApp activate]; }

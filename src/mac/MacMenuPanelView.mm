@@ -70,8 +70,7 @@ using quorvane::TileGrid;
 }
 
 - (void)rebuildTiles {
-    quorvane::removeArrangedViews(_grid);
-    [_tileTargets removeAllObjects];
+    quorvane::removeArrangedViews(_grid, _tileTargets);
     const auto tiles = _model->tiles();
     if (tiles.empty()) {
         [_grid addArrangedSubview:quorvane::makeSecondaryLabel(quorvane::MenuModel::kEmptyText,
@@ -102,8 +101,7 @@ using quorvane::TileGrid;
     [button setButtonType:NSButtonTypePushOnPushOff];
     button.state = quorvane::stateValue(tile.isOn);
     button.toolTip = quorvane::text(tile.status);
-    [button.widthAnchor constraintEqualToConstant:TileGrid::kTileWidth].active = YES;
-    [button.heightAnchor constraintEqualToConstant:TileGrid::kTileHeight].active = YES;
+    quorvane::fixSize(button, TileGrid::kTileWidth, TileGrid::kTileHeight);
     return button;
 }
 

@@ -4,6 +4,7 @@
 
 #include "mac/MacPorts.hpp"
 
+#include "mac/MacFloatingWindow.hpp"
 #include "mac/MacFrameworks.h"
 
 // Notes, from Apple's NSWindow reference (check on a Mac first):
@@ -23,16 +24,9 @@ namespace {
 class MacOverlay final : public Overlay {
 public:
     MacOverlay() {
-        window_ = [[NSWindow alloc] initWithContentRect:NSZeroRect
-                                              styleMask:NSWindowStyleMaskBorderless
-                                                backing:NSBackingStoreBuffered
-                                                  defer:NO];
-        window_.opaque = NO;
-        window_.backgroundColor = [NSColor blackColor];
-        window_.hasShadow = NO;
-        window_.ignoresMouseEvents = YES;
-        window_.releasedWhenClosed = NO;
-        window_.level = NSNormalWindowLevel;
+        window_ = makeFloatingWindow([NSWindow class], NSZeroRect, NSWindowStyleMaskBorderless,
+                                     NSNormalWindowLevel, [NSColor blackColor]);
+        makeClickThrough(window_);
         // On every Space, left in place by Mission Control, out of ⌘` cycling.
         window_.collectionBehavior = NSWindowCollectionBehaviorCanJoinAllSpaces |
                                      NSWindowCollectionBehaviorStationary |

@@ -2,6 +2,8 @@
 
 #include <memory>
 
+#include "base/CallIfSet.hpp"
+#include "mac/MacFloatingWindow.hpp"
 #include "mac/MacFrameworks.h"
 #include "mac/MacStrings.hpp"
 #include "mac/MacViews.hpp"
@@ -18,28 +20,17 @@ namespace quorvane {
 
 namespace {
 
-NSView* fixedSize(NSView* view, double width, double height) {
-    view.translatesAutoresizingMaskIntoConstraints = NO;
-    [view.widthAnchor constraintEqualToConstant:width].active = YES;
-    [view.heightAnchor constraintEqualToConstant:height].active = YES;
-    return view;
-}
-
 NSView* makeLevelBar(const LevelBar& bar) {
     NSStackView* row = [[NSStackView alloc] init];
     row.orientation = NSUserInterfaceLayoutOrientationHorizontal;
     row.spacing = LevelBar::kSpacing;
-    const int filled = bar.filledSegments();
     for (int index = 0; index < LevelBar::kSegments; ++index) {
         NSView* segment =
-            fixedSize([[NSView alloc] init], LevelBar::kSegmentWidth, LevelBar::kSegmentHeight);
+            fixSize([[NSView alloc] init], LevelBar::kSegmentWidth, LevelBar::kSegmentHeight);
         segment.wantsLayer = YES;
         segment.layer.cornerRadius = LevelBar::kCornerRadius;
-        NSColor* color = [NSColor labelColor];
-        if (index >= filled) {
-            color = [color colorWithAlphaComponent:LevelBar::kUnfilledOpacity];
-        }
-        segment.layer.backgroundColor = color.CGColor;
+        segment.layer.backgroundColor =
+            [[NSColor labelColor] colorWithAlphaComponent:bar.segmentOpacity(index)].CGColor;
         [row addArrangedSubview:segment];
     }
     return row;
@@ -67,16 +58,14 @@ NSView* makeCard(const HUDCard& card) {
     // Headline and detail each wrap within the card rather than being clipped to one line.
     const CGFloat textWidth = HUDCard::kWidth - 2 * HUDCard::kPadding;
     const NoticeLines lines = noticeLines(card.title);
-    NSTextField* headline = [NSTextField wrappingLabelWithString:text(lines.headline)];
+    NSTextField* headline = makeWrappingLabel(lines.headline, textWidth);
     headline.font = [NSFont preferredFontForTextStyle:NSFontTextStyleHeadline options:@{}];
     headline.alignment = NSTextAlignmentCenter;
-    headline.preferredMaxLayoutWidth = textWidth;
     [stack addArrangedSubview:headline];
-    NSTextField* detail = [NSTextField wrappingLabelWithString:text(lines.detail)];
+    NSTextField* detail = makeWrappingLabel(lines.detail, textWidth);
     detail.font = [NSFont preferredFontForTextStyle:NSFontTextStyleSubheadline options:@{}];
     detail.textColor = [NSColor secondaryLabelColor];
     detail.alignment = NSTextAlignmentCenter;
-    detail.preferredMaxLayoutWidth = textWidth;
     // A stack view leaves hidden views out of its layout.
     detail.hidden = lines.detail.empty();
     [stack addArrangedSubview:detail];
@@ -85,14 +74,8 @@ NSView* makeCard(const HUDCard& card) {
         [stack addArrangedSubview:makeLevelBar(LevelBar{*card.level})];
     }
 
-    NSVisualEffectView* background = [[NSVisualEffectView alloc] init];
-    background.material = NSVisualEffectMaterialPopover;
-    background.blendingMode = NSVisualEffectBlendingModeBehindWindow;
-    background.state = NSVisualEffectStateActive;
-    background.wantsLayer = YES;
-    background.layer.cornerRadius = HUDCard::kCornerRadius;
+    NSVisualEffectView* background = makeMaterialBackground(HUDCard::kCornerRadius);
     background.layer.cornerCurve = kCACornerCurveContinuous;
-    background.layer.masksToBounds = YES;
     [background addSubview:stack];
     pinEdges(stack, background, 0);
     [background.widthAnchor constraintEqualToConstant:HUDCard::kWidth].active = YES;
@@ -108,19 +91,10 @@ class MacPanel final : public Panel {
 public:
     MacPanel() {
         // Non-activating (style mask 128): showing it never takes focus from the user's app.
-        panel_ = [[NSPanel alloc] initWithContentRect:NSZeroRect
-                                            styleMask:NSWindowStyleMaskNonactivatingPanel
-                                              backing:NSBackingStoreBuffered
-                                                defer:NO];
-        panel_.level = NSStatusWindowLevel;
-        panel_.opaque = NO;
-        panel_.backgroundColor = [NSColor clearColor];
-        panel_.hasShadow = NO;
-        panel_.ignoresMouseEvents = YES;
-        panel_.releasedWhenClosed = NO;
-        // A panel hides when its app deactivates by default; Quorvane is an accessory app that is
-        // almost never active, so the card would vanish at once or never show.
-        panel_.hidesOnDeactivate = NO;
+        panel_ =
+            makeFloatingWindow([NSPanel class], NSZeroRect, NSWindowStyleMaskNonactivatingPanel,
+                               NSStatusWindowLevel, [NSColor clearColor]);
+        makeClickThrough(panel_);
         // 337: on every Space, stationary, out of window cycling, over full-screen apps.
         panel_.collectionBehavior =
             NSWindowCollectionBehaviorCanJoinAllSpaces | NSWindowCollectionBehaviorStationary |
@@ -160,8 +134,8 @@ public:
               panel.animator.alphaValue = alpha;
             }
             completionHandler:^{
-              if (*alive && completion) {
-                  completion();
+              if (*alive) {
+                  callIfSet(completion);
               }
             }];
     }

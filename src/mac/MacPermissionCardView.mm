@@ -6,8 +6,8 @@
 // system colours and contentTintColor are not in the fact sheet.
 namespace quorvane {
 
-NSView* makePermissionCardView(const PermissionCard& card, CardAction perform, NSMutableArray* keep,
-                               CGFloat width) {
+NSView* makePermissionCardView(const PermissionCard& card, PermissionCardSource& source,
+                               NSMutableArray* keep, CGFloat width) {
     const CGFloat inner = width - 32;
     NSStackView* title = makeRow(8, @[
         makeSymbol(PermissionCard::kIcon, 18, ColorRole::accent),
@@ -22,10 +22,11 @@ NSView* makePermissionCardView(const PermissionCard& card, CardAction perform, N
         }
         NSStackView* buttons = makeRow(8);
         const Permission permission = card.permission;
+        PermissionCardSource* target = &source;
         for (const auto& button : card.buttons) {
             const PermissionCard::Action action = button.action;
             [buttons addArrangedSubview:makeButton(button.title, keep, ^{
-                       perform(permission, action);
+                       target->performCardAction(permission, action);
                      })];
         }
         [column addArrangedSubview:buttons];
@@ -45,15 +46,13 @@ NSView* makePermissionCardView(const PermissionCard& card, CardAction perform, N
     return box;
 }
 
-void fillPermissionCards(NSStackView* stack, const std::vector<PermissionCard>& cards,
-                         const std::string& notice, CardAction perform, NSMutableArray* keep,
+void fillPermissionCards(NSStackView* stack, PermissionCardSource& source, NSMutableArray* keep,
                          CGFloat width) {
-    removeArrangedViews(stack);
-    [keep removeAllObjects];
-    for (const auto& card : cards) {
-        [stack addArrangedSubview:makePermissionCardView(card, perform, keep, width)];
+    removeArrangedViews(stack, keep);
+    for (const auto& card : source.cards()) {
+        [stack addArrangedSubview:makePermissionCardView(card, source, keep, width)];
     }
-    if (!notice.empty()) {
+    if (const std::string& notice = source.cardNotice(); !notice.empty()) {
         NSTextField* label = makeWrappingLabel(notice, width);
         label.textColor = color(ColorRole::red);
         [stack addArrangedSubview:label];

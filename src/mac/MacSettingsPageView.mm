@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "base/Observable.hpp"
+#include "base/CallIfSet.hpp"
 #include "base/Overloaded.hpp"
 #include "base/Subscription.hpp"
 #include "input/ShortcutRecorder.hpp"
@@ -113,13 +114,11 @@ struct PageState {
                 return quorvane::makeSecondaryLabel(note.text, _width);
             },
             [&](const Row::Warning& warning) -> NSView* {
-                NSTextField* label = quorvane::makeWrappingLabel(warning.current(), _width - 24);
-                if (warning.read) {
-                    const Row::Warning* shown = &warning;
-                    [_updates addObject:^{
-                      label.stringValue = quorvane::text(shown->read());
-                    }];
-                }
+                NSTextField* label = quorvane::makeWrappingLabel("", _width - 24);
+                const Row::Warning* shown = &warning;
+                [_updates addObject:^{
+                  label.stringValue = quorvane::text(shown->current());
+                }];
                 return quorvane::makeWarning(label);
             },
             [&](const Row::Button& button) { return [self buttonRow:&button]; },
@@ -130,9 +129,7 @@ struct PageState {
 
 - (NSView*)toggleRow:(const Row::Toggle*)toggle {
     NSButton* box = quorvane::makeCheckbox(toggle->label, false, _targets, ^(bool on) {
-      if (toggle->set) {
-          toggle->set(on);
-      }
+      quorvane::callIfSet(toggle->set, on);
     });
     [_updates addObject:^{
       box.state = quorvane::stateValue(quorvane::isOn(*toggle));
@@ -176,9 +173,7 @@ struct PageState {
     [QVActionTarget bind:control
                     keep:_targets
                  handler:^(id) {
-                   if (slider->set) {
-                       slider->set(control.doubleValue);
-                   }
+                   quorvane::callIfSet(slider->set, control.doubleValue);
                    value.stringValue =
                        quorvane::text(quorvane::valueText(*slider, control.doubleValue));
                  }];
@@ -201,9 +196,7 @@ struct PageState {
                     keep:_targets
                  handler:^(id) {
                    const auto chosen = static_cast<std::int64_t>(std::llround(control.doubleValue));
-                   if (stepper->set) {
-                       stepper->set(chosen);
-                   }
+                   quorvane::callIfSet(stepper->set, chosen);
                    value.stringValue = quorvane::text(quorvane::valueText(*stepper, chosen));
                  }];
     [_updates addObject:^{
@@ -217,15 +210,10 @@ struct PageState {
 - (NSView*)textFieldRow:(const Row::TextField*)field {
     NSTextField* control = quorvane::makeCommittingField(field->placeholder, 200, _targets,
                                                          ^(const std::string& text) {
-                                                           if (field->set) {
-                                                               field->set(text);
-                                                           }
+                                                           quorvane::callIfSet(field->set, text);
                                                          });
     [_updates addObject:^{
-      // Text being typed is the user's; it is not replaced under them.
-      if (control.currentEditor == nil && field->get) {
-          control.stringValue = quorvane::text(field->get());
-      }
+      quorvane::showUnlessEditing(control, quorvane::currentText(*field));
     }];
     return quorvane::makeRow(8, @[ quorvane::makeLabel(field->label), control ]);
 }
@@ -235,18 +223,14 @@ struct PageState {
     // The recorder button shows the shortcut itself, so the combination appears once.
     NSButton* record = quorvane::makeButton(Recorder::kEmptyTitle, _targets, ^{
       // A row without a recorder cannot record, and says so.
-      if (shortcut->toggleRecording) {
-          shortcut->toggleRecording();
-      } else {
+      if (!quorvane::callIfSet(shortcut->toggleRecording)) {
           NSBeep();
       }
     });
     [record.widthAnchor constraintEqualToConstant:Recorder::kButtonWidth].active = YES;
     NSButton* clear =
         quorvane::makeSymbolButton(Recorder::kClearSymbol, Recorder::kClearLabel, _targets, ^{
-          if (shortcut->clear) {
-              shortcut->clear();
-          }
+          quorvane::callIfSet(shortcut->clear);
         });
     NSTextField* conflict = quorvane::makeSecondaryLabel(shortcut->conflictNotice, _width);
     conflict.textColor = quorvane::color(quorvane::ColorRole::red);
@@ -257,13 +241,11 @@ struct PageState {
       clear.hidden = !quorvane::showsClearButton(*shortcut);
       conflict.hidden = !quorvane::showsConflict(*shortcut);
     }];
-    NSStackView* line = quorvane::makeRow(8);
-    if (!shortcut->symbol.empty()) {
-        [line addArrangedSubview:quorvane::makeSymbol(shortcut->symbol, 15)];
-    }
-    for (NSView* view in @[ quorvane::makeLabel(shortcut->label), record, clear ]) {
-        [line addArrangedSubview:view];
-    }
+    NSImageView* symbol = quorvane::makeSymbol(shortcut->symbol, 15);
+    // Stack views leave hidden views out of the layout.
+    symbol.hidden = shortcut->symbol.empty();
+    NSStackView* line =
+        quorvane::makeRow(8, @[ symbol, quorvane::makeLabel(shortcut->label), record, clear ]);
     return quorvane::makeColumn(2, @[ line, conflict ]);
 }
 
@@ -273,21 +255,18 @@ struct PageState {
 
 // A list of one line per entry, read again on every refresh, each entry with a remove button
 // when it has a remove action.
-- (NSView*)listTitled:(const std::string&)label
-                empty:(const std::string&)emptyText
-                lines:(std::function<std::vector<quorvane::ListLine>()>)read
-                extra:(NSView*)extra {
+- (NSView*)list:(const quorvane::ListDisplay&)list extra:(NSView*)extra {
     NSStackView* lines = quorvane::makeColumn(2);
-    NSStackView* column = quorvane::makeColumn(4, @[ quorvane::makeLabel(label), lines ]);
+    NSStackView* column = quorvane::makeColumn(4, @[ quorvane::makeLabel(list.label), lines ]);
     if (extra) {
         [column addArrangedSubview:extra];
     }
     NSMutableArray* lineTargets = [NSMutableArray array];
     const CGFloat width = _width;
-    const std::string empty = emptyText;
+    const std::string empty = list.emptyText;
+    const auto read = list.lines;
     [_updates addObject:^{
-      quorvane::removeArrangedViews(lines);
-      [lineTargets removeAllObjects];
+      quorvane::removeArrangedViews(lines, lineTargets);
       const auto entries = read();
       if (entries.empty()) {
           [lines addArrangedSubview:quorvane::makeSecondaryLabel(empty, width)];
@@ -330,17 +309,11 @@ struct PageState {
           NSBeep();
       }
     });
-    return [self listTitled:list->label
-                      empty:list->emptyText
-                      lines:[list] { return quorvane::listLines(*list); }
-                      extra:add];
+    return [self list:quorvane::listDisplay(*list) extra:add];
 }
 
 - (NSView*)itemListRow:(const Row::ItemList*)list {
-    return [self listTitled:list->label
-                      empty:list->emptyText
-                      lines:[list] { return quorvane::listLines(*list); }
-                      extra:nil];
+    return [self list:quorvane::listDisplay(*list) extra:nil];
 }
 
 // One line per entry, rebuilt only when the number of entries changes: rebuilding under the
@@ -349,75 +322,54 @@ struct PageState {
 - (NSView*)editableListRow:(const Row::EditableList*)list {
     NSStackView* lines = quorvane::makeColumn(6);
     NSButton* add = quorvane::makeButton(list->addTitle, _targets, ^{
-      if (list->add) {
-          list->add();
-      }
+      quorvane::callIfSet(list->add);
     });
     NSStackView* column = quorvane::makeColumn(6, @[ lines, add ]);
     NSMutableArray* lineTargets = [NSMutableArray array];
-    NSMutableArray<NSTextField*>* keys = [NSMutableArray array];
-    NSMutableArray<NSTextField*>* values = [NSMutableArray array];
-    NSMutableArray<NSView*>* warnings = [NSMutableArray array];
-    NSMutableArray<NSTextField*>* warningTexts = [NSMutableArray array];
+    // One block per line that puts its entry into the line's controls.
+    NSMutableArray<void (^)(const Row::EditableEntry&)>* lineUpdates = [NSMutableArray array];
     const CGFloat width = _width;
     [_updates addObject:^{
-      const auto entries = list->entries ? list->entries() : std::vector<Row::EditableEntry>{};
-      if (entries.size() != keys.count) {
-          quorvane::removeArrangedViews(lines);
-          for (NSMutableArray* array in @[ lineTargets, keys, values, warnings, warningTexts ]) {
-              [array removeAllObjects];
-          }
+      const auto entries = quorvane::editableEntries(*list);
+      if (entries.size() != lineUpdates.count) {
+          quorvane::removeArrangedViews(lines, lineTargets);
+          [lineUpdates removeAllObjects];
           for (std::size_t index = 0; index < entries.size(); ++index) {
+              const auto actions = quorvane::editableLineActions(*list, index, entries.size());
               NSTextField* key = quorvane::makeCommittingField(
                   list->keyPlaceholder, 90, lineTargets, ^(const std::string& text) {
-                    if (list->setKey) {
-                        list->setKey(index, text);
-                    }
+                    actions.setKey(text);
                   });
               NSTextField* value = quorvane::makeCommittingField(
                   list->valuePlaceholder, 220, lineTargets, ^(const std::string& text) {
-                    if (list->setValue) {
-                        list->setValue(index, text);
-                    }
+                    actions.setValue(text);
                   });
               NSStackView* line = quorvane::makeRow(6, @[ key, value ]);
-              if (list->move) {
-                  for (const auto& [title, offset] : {std::pair{"↑", -1}, std::pair{"↓", 1}}) {
-                      const auto target = quorvane::moveTarget(index, entries.size(), offset);
-                      NSButton* move = quorvane::makeButton(title, lineTargets, ^{
-                        if (target) {
-                            list->move(index, *target);
-                        }
-                      });
-                      move.enabled = target.has_value();
-                      [line addArrangedSubview:move];
-                  }
+              for (const auto& move : actions.moves) {
+                  const std::function<void()> action = move.action;
+                  NSButton* button = quorvane::makeButton(move.title, lineTargets, ^{
+                    quorvane::callIfSet(action);
+                  });
+                  button.enabled = action != nullptr;
+                  [line addArrangedSubview:button];
               }
               [line addArrangedSubview:quorvane::makeSymbolButton(list->removeSymbol, "Remove",
                                                                   lineTargets, ^{
-                                                                    if (list->remove) {
-                                                                        list->remove(index);
-                                                                    }
+                                                                    actions.remove();
                                                                   })];
               NSTextField* warningText = quorvane::makeWrappingLabel("", width - 24);
               NSStackView* warning = quorvane::makeWarning(warningText);
               [lines addArrangedSubview:quorvane::makeColumn(2, @[ line, warning ])];
-              [keys addObject:key];
-              [values addObject:value];
-              [warnings addObject:warning];
-              [warningTexts addObject:warningText];
+              [lineUpdates addObject:^(const Row::EditableEntry& entry) {
+                quorvane::showUnlessEditing(key, entry.key);
+                quorvane::showUnlessEditing(value, entry.value);
+                warningText.stringValue = quorvane::text(entry.warning);
+                warning.hidden = entry.warning.empty();
+              }];
           }
       }
       for (std::size_t index = 0; index < entries.size(); ++index) {
-          const auto i = static_cast<NSUInteger>(index);
-          if (keys[i].currentEditor == nil) {
-              keys[i].stringValue = quorvane::text(entries[index].key);
-          }
-          if (values[i].currentEditor == nil) {
-              values[i].stringValue = quorvane::text(entries[index].value);
-          }
-          warningTexts[i].stringValue = quorvane::text(entries[index].warning);
-          warnings[i].hidden = entries[index].warning.empty();
+          lineUpdates[static_cast<NSUInteger>(index)](entries[index]);
       }
     }];
     return column;
@@ -425,9 +377,7 @@ struct PageState {
 
 - (NSView*)buttonRow:(const Row::Button*)button {
     NSButton* control = quorvane::makeButton(button->title, _targets, ^{
-      if (button->action) {
-          button->action();
-      }
+      quorvane::callIfSet(button->action);
     });
     control.hasDestructiveAction = button->role == Row::ButtonRole::destructive;
     return control;

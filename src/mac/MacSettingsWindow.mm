@@ -39,7 +39,6 @@ constexpr CGFloat kPageWidth = 520;
     NSMutableArray* _targets;
     NSMutableArray* _headerTargets;
     NSMutableArray* _cardTargets;
-    quorvane::CardAction _performCard;
     BOOL _reloadingSidebar;
 }
 
@@ -64,10 +63,6 @@ constexpr CGFloat kPageWidth = 520;
     _targets = [NSMutableArray array];
     _headerTargets = [NSMutableArray array];
     _cardTargets = [NSMutableArray array];
-    Model* target = _model;
-    _performCard = ^(quorvane::Permission permission, quorvane::PermissionCard::Action action) {
-      target->performCardAction(permission, action);
-    };
 
     // The sidebar keeps its width; the page takes the rest, and both the full height.
     NSView* sidebar = [self makeSidebar];
@@ -154,15 +149,12 @@ constexpr CGFloat kPageWidth = 520;
     }
     _reloadingSidebar = NO;
     _noResults.hidden = !_rows.empty();
-    // Text being typed is the user's; the query only changes under them when a tool's page
-    // is opened from elsewhere.
-    if (_search.currentEditor == nil) {
-        _search.stringValue = quorvane::text(_model->query());
-    }
+    // The query only changes under the user's typing when a tool's page is opened from
+    // elsewhere.
+    quorvane::showUnlessEditing(_search, _model->query());
 
     [self rebuildHeader];
-    quorvane::fillPermissionCards(_cards, _model->cards(), _model->cardNotice(), _performCard,
-                                  _cardTargets, kPageWidth);
+    quorvane::fillPermissionCards(_cards, *_model, _cardTargets, kPageWidth);
     if (_model->pageGeneration() != _pageGeneration) {
         _pageGeneration = _model->pageGeneration();
         [self stopRecording];
@@ -175,8 +167,7 @@ constexpr CGFloat kPageWidth = 520;
 }
 
 - (void)rebuildHeader {
-    quorvane::removeArrangedViews(_header);
-    [_headerTargets removeAllObjects];
+    quorvane::removeArrangedViews(_header, _headerTargets);
     const Model::Header header = _model->header();
     Model* model = _model;
 

@@ -30,10 +30,16 @@ NSImage* makeSymbolImage(std::string_view systemImage, std::string_view descript
 // The Finder's icon of a file or bundle, `size` points square.
 NSImageView* makeFileIcon(std::string_view path, CGFloat size);
 
+// Pins the view to one size, `width` by `height` points; answers the view.
+NSView* fixSize(NSView* view, CGFloat width, CGFloat height);
+// The frosted material of a popover behind a floating window's content, with rounded corners.
+NSVisualEffectView* makeMaterialBackground(CGFloat cornerRadius);
+
 // Stacks holding `views` in order.
 NSStackView* makeColumn(CGFloat spacing, NSArray<NSView*>* views = nil);
 NSStackView* makeRow(CGFloat spacing, NSArray<NSView*>* views = nil);
-void removeArrangedViews(NSStackView* stack);
+// Also empties `keep`, the targets of the controls among them, when given.
+void removeArrangedViews(NSStackView* stack, NSMutableArray* keep = nil);
 // A vertical scroller whose content starts at the top and is as wide as the visible area.
 NSScrollView* makeScrollView(NSView* content, CGFloat inset);
 void pinEdges(NSView* view, NSView* container, CGFloat inset);
@@ -47,6 +53,8 @@ NSButton* makeCheckbox(std::string_view title, bool on, NSMutableArray* keep,
 // Commits its text when the user presses Return or leaves the field, not on every keystroke.
 NSTextField* makeCommittingField(std::string_view placeholder, CGFloat minimumWidth,
                                  NSMutableArray* keep, void (^commit)(const std::string& text));
+// Text being typed is the user's: a field that is being edited keeps it.
+void showUnlessEditing(NSTextField* field, std::string_view utf8);
 // The warning triangle with `label` beside it, wrapping.
 NSStackView* makeWarning(NSTextField* label);
 

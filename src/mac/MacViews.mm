@@ -15,9 +15,9 @@
 
 // unconfirmed: check on a Mac first. Nothing in this file is in the fact sheet: NSTextField's
 // label constructors and text properties, NSFont, NSColor, NSImage's symbol constructor and
-// NSImageSymbolConfiguration, NSImageView, NSStackView, NSScrollView, NSButton's constructors
-// and state, the text field's cell, the layout anchors and dispatch_async on the main queue
-// are written from Apple's reference.
+// NSImageSymbolConfiguration, NSImageView, NSVisualEffectView, NSStackView, NSScrollView,
+// NSButton's constructors and state, the text field's cell, the layout anchors and dispatch_async
+// on the main queue are written from Apple's reference.
 namespace quorvane {
 
 NSColor* color(ColorRole role) {
@@ -105,8 +105,7 @@ NSImageView* makeFileIcon(std::string_view path, CGFloat size) {
     NSImage* icon = [[NSWorkspace sharedWorkspace] iconForFile:text(path)];
     icon.size = NSMakeSize(size, size);
     NSImageView* view = [NSImageView imageViewWithImage:icon];
-    [view.widthAnchor constraintEqualToConstant:size].active = YES;
-    [view.heightAnchor constraintEqualToConstant:size].active = YES;
+    fixSize(view, size, size);
     return view;
 }
 
@@ -114,6 +113,24 @@ NSImageView* makeSymbol(std::string_view systemImage, CGFloat pointSize, ColorRo
     NSImageView* view = makeSymbol(systemImage, pointSize);
     view.contentTintColor = color(tint);
     return view;
+}
+
+NSView* fixSize(NSView* view, CGFloat width, CGFloat height) {
+    view.translatesAutoresizingMaskIntoConstraints = NO;
+    [view.widthAnchor constraintEqualToConstant:width].active = YES;
+    [view.heightAnchor constraintEqualToConstant:height].active = YES;
+    return view;
+}
+
+NSVisualEffectView* makeMaterialBackground(CGFloat cornerRadius) {
+    NSVisualEffectView* background = [[NSVisualEffectView alloc] init];
+    background.material = NSVisualEffectMaterialPopover;
+    background.blendingMode = NSVisualEffectBlendingModeBehindWindow;
+    background.state = NSVisualEffectStateActive;
+    background.wantsLayer = YES;
+    background.layer.cornerRadius = cornerRadius;
+    background.layer.masksToBounds = YES;
+    return background;
 }
 
 namespace {
@@ -139,7 +156,8 @@ NSStackView* makeRow(CGFloat spacing, NSArray<NSView*>* views) {
                      views);
 }
 
-void removeArrangedViews(NSStackView* stack) {
+void removeArrangedViews(NSStackView* stack, NSMutableArray* keep) {
+    [keep removeAllObjects];
     // Removing a view from its superview also takes it out of the arranged views.
     for (NSView* view in [stack.arrangedSubviews copy]) {
         [view removeFromSuperview];
@@ -224,6 +242,12 @@ NSTextField* makeCommittingField(std::string_view placeholder, CGFloat minimumWi
                    commit(utf8String(static_cast<NSTextField*>(sender).stringValue));
                  }];
     return field;
+}
+
+void showUnlessEditing(NSTextField* field, std::string_view utf8) {
+    if (field.currentEditor == nil) {
+        field.stringValue = text(utf8);
+    }
 }
 
 NSStackView* makeWarning(NSTextField* label) {

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "app/PermissionCard.hpp"
+#include "app/PermissionCardSource.hpp"
 #include "base/Observable.hpp"
 #include "base/Subscription.hpp"
 
@@ -19,7 +20,7 @@ class ToolRegistry;
 
 // The welcome shown on the first launch: what Quorvane is, the permissions its tools ask for,
 // and a few tools to switch on right away. Once finished or closed it is not shown again.
-class FirstRunModel : public Observable {
+class FirstRunModel : public Observable, public PermissionCardSource {
 public:
     static constexpr const char* kDoneKey = "app.firstRunDone";
     static constexpr const char* kTitle = "Welcome to Quorvane";
@@ -59,10 +60,10 @@ public:
     static bool isNeeded(const Preferences& preferences);
 
     // Only what the picked tools need, so nobody grants a permission for a tool left off.
-    std::vector<PermissionCard> cards() const;
+    std::vector<PermissionCard> cards() const override;
     std::string_view permissionsIntro() const;
-    const std::string& cardNotice() const;
-    void performCardAction(Permission permission, PermissionCard::Action action);
+    const std::string& cardNotice() const override;
+    void performCardAction(Permission permission, PermissionCard::Action action) override;
 
     // The favourites that are available, then other available tools in registry order.
     std::vector<Suggestion> suggestions() const;

@@ -25,6 +25,10 @@ struct LevelBar {
         }
         return static_cast<int>(std::round(std::min(level, 1.0) * kSegments));
     }
+    // The opacity of the segment at `index`, counted from the left.
+    double segmentOpacity(int index) const {
+        return index < filledSegments() ? 1.0 : kUnfilledOpacity;
+    }
 };
 
 }  // namespace quorvane

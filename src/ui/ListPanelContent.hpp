@@ -19,6 +19,11 @@ struct ListPanelRow {
     // Bundle identifier of the app the row came from; the panel shows its icon and name.
     std::optional<std::string> app;
     bool isSelected = false;
+
+    // The selection's highlight behind the row: a tint of the accent colour, none when the row
+    // is not selected.
+    static constexpr double kSelectedOpacity = 0.25;
+    double highlightOpacity() const { return isSelected ? kSelectedOpacity : 0; }
 };
 
 // Everything a floating list shows besides its rows, which it asks for one at a time as they

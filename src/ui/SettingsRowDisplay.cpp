@@ -2,7 +2,10 @@
 
 #include <cmath>
 #include <sstream>
+#include <utility>
 #include <variant>
+
+#include "base/CallIfSet.hpp"
 
 namespace quorvane {
 
@@ -61,6 +64,10 @@ std::string valueText(const SettingsRow::Stepper& stepper, std::int64_t value) {
     return stepper.format ? stepper.format(value) : std::to_string(value);
 }
 
+std::string currentText(const SettingsRow::TextField& field) {
+    return field.get ? field.get() : std::string();
+}
+
 int tickMarkCount(const SettingsRow::Slider& slider) {
     if (!(slider.step > 0) || !(slider.maximum > slider.minimum)) {
         return 0;
@@ -107,12 +114,45 @@ std::vector<ListLine> listLines(const SettingsRow::ItemList& list) {
     return lines;
 }
 
+ListDisplay listDisplay(const SettingsRow::AppList& list) {
+    return {list.label, list.emptyText, [&list] { return listLines(list); }};
+}
+
+ListDisplay listDisplay(const SettingsRow::ItemList& list) {
+    return {list.label, list.emptyText, [&list] { return listLines(list); }};
+}
+
 std::optional<std::size_t> moveTarget(std::size_t index, std::size_t count, int offset) {
     const auto target = static_cast<std::ptrdiff_t>(index) + offset;
     if (index >= count || target < 0 || static_cast<std::size_t>(target) >= count) {
         return std::nullopt;
     }
     return static_cast<std::size_t>(target);
+}
+
+std::vector<SettingsRow::EditableEntry> editableEntries(const SettingsRow::EditableList& list) {
+    return list.entries ? list.entries() : std::vector<SettingsRow::EditableEntry>{};
+}
+
+EditableLineActions editableLineActions(const SettingsRow::EditableList& list, std::size_t index,
+                                        std::size_t count) {
+    EditableLineActions actions{
+        [set = list.setKey, index](const std::string& text) { callIfSet(set, index, text); },
+        [set = list.setValue, index](const std::string& text) { callIfSet(set, index, text); },
+        [remove = list.remove, index] { callIfSet(remove, index); },
+        {},
+    };
+    if (!list.move) {
+        return actions;
+    }
+    for (const auto& [title, offset] : {std::pair{"↑", -1}, std::pair{"↓", 1}}) {
+        EditableMove move{title, nullptr};
+        if (const auto target = moveTarget(index, count, offset)) {
+            move.action = [moveEntry = list.move, index, to = *target] { moveEntry(index, to); };
+        }
+        actions.moves.push_back(std::move(move));
+    }
+    return actions;
 }
 
 std::string customText(const SettingsRow::Custom& custom) {

@@ -43,6 +43,7 @@ std::string valueText(const SettingsRow::Slider& slider, double value);
 // Up to six significant digits, without trailing zeros: 0.5, 12, 1e+06.
 std::string plainNumber(double value);
 std::string valueText(const SettingsRow::Stepper& stepper, std::int64_t value);
+std::string currentText(const SettingsRow::TextField& field);
 
 // The tick marks under a slider that moves in steps, one per reachable value; 0 for a
 // continuous slider.
@@ -62,9 +63,37 @@ struct ListLine {
 };
 std::vector<ListLine> listLines(const SettingsRow::AppList& list);
 std::vector<ListLine> listLines(const SettingsRow::ItemList& list);
+// Either kind of list as one renderer draws it: its label, the text shown while it is empty,
+// and its lines, read again on every refresh. The row must outlive the reader.
+struct ListDisplay {
+    std::string label;
+    std::string emptyText;
+    std::function<std::vector<ListLine>()> lines;
+};
+ListDisplay listDisplay(const SettingsRow::AppList& list);
+ListDisplay listDisplay(const SettingsRow::ItemList& list);
 
 // Where an editable list's entry goes when moved `offset` places; nothing past either end.
 std::optional<std::size_t> moveTarget(std::size_t index, std::size_t count, int offset);
+
+// An editable list's entries; none when the list has no binding for them.
+std::vector<SettingsRow::EditableEntry> editableEntries(const SettingsRow::EditableList& list);
+// A move button of an editable list's line; its action is empty, and the button disabled, when
+// the entry is already at that end.
+struct EditableMove {
+    std::string title;
+    std::function<void()> action;
+};
+// The controls of the line at `index` of `count` entries, bound to that place. Each works on
+// a binding the list leaves empty by doing nothing. No move buttons when the order is fixed.
+struct EditableLineActions {
+    std::function<void(const std::string&)> setKey;
+    std::function<void(const std::string&)> setValue;
+    std::function<void()> remove;
+    std::vector<EditableMove> moves;
+};
+EditableLineActions editableLineActions(const SettingsRow::EditableList& list, std::size_t index,
+                                        std::size_t count);
 
 // What a renderer that cannot draw a custom row shows in its place.
 std::string customText(const SettingsRow::Custom& custom);

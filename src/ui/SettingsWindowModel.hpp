@@ -9,6 +9,7 @@
 
 #include "app/Permission.hpp"
 #include "app/PermissionCard.hpp"
+#include "app/PermissionCardSource.hpp"
 #include "base/ColorRole.hpp"
 #include "base/Observable.hpp"
 #include "base/Subscription.hpp"
@@ -24,7 +25,7 @@ class ToolRegistry;
 // The settings window as data: a searchable sidebar of the tools grouped by category, and the
 // page of the selected entry (Quorvane's own settings under "General", or a tool's page with
 // its switch, its permission cards and its settings).
-class SettingsWindowModel : public Observable {
+class SettingsWindowModel : public Observable, public PermissionCardSource {
 public:
     static constexpr const char* kGeneralTitle = "General";
     static constexpr const char* kGeneralImage = "gearshape";
@@ -90,10 +91,10 @@ public:
     SettingsPage page() const;
     const Observable* pageSource() const;
 
-    std::vector<PermissionCard> cards() const;
+    std::vector<PermissionCard> cards() const override;
     // Shown under the cards when a card's button failed.
-    const std::string& cardNotice() const;
-    void performCardAction(Permission permission, PermissionCard::Action action);
+    const std::string& cardNotice() const override;
+    void performCardAction(Permission permission, PermissionCard::Action action) override;
 
     void setSwitch(bool on);
     void setInMenu(bool on);

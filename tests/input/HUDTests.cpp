@@ -89,6 +89,8 @@ TEST(LevelBar, FillsRoundedSixteenthsOfTheClampedLevel) {
     EXPECT_EQ((LevelBar{0.03}).filledSegments(), 0);
     EXPECT_EQ((LevelBar{0.032}).filledSegments(), 1);
     EXPECT_EQ((LevelBar{std::nan("")}).filledSegments(), 0);
+    EXPECT_EQ((LevelBar{0.5}).segmentOpacity(7), 1.0);
+    EXPECT_EQ((LevelBar{0.5}).segmentOpacity(8), LevelBar::kUnfilledOpacity);
 }
 
 }  // namespace

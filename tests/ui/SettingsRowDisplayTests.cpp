@@ -86,6 +86,7 @@ TEST(SettingsRowDisplayTest, UnboundRowsReadAsOffOrTheirMinimumAndStoreNothing) 
     EXPECT_EQ(currentValue(slider), -12);
     SettingsRow::Stepper stepper{"Count", 3, 9, 1, nullptr, nullptr, nullptr};
     EXPECT_EQ(currentValue(stepper), 3);
+    EXPECT_EQ(currentText(SettingsRow::TextField{"Name", "", nullptr, nullptr}), "");
 
     SettingsRow::Choice unbound = presetChoice("rock");
     chooseItem(unbound, 0);  // no setter: nothing happens, nothing breaks
@@ -152,6 +153,9 @@ TEST(SettingsRowDisplayTest, ListLinesNameTheirEntryAndRemoveThatEntry) {
     lines[0].remove();
     EXPECT_EQ(removedItems, (std::vector<std::size_t>{2, 0}));
 
+    const ListDisplay display = listDisplay(items);
+    items.items = [] { return std::vector<std::string>{"only"}; };
+    EXPECT_EQ(display.lines().size(), 1u) << "a drawn list reads the row's items when refreshed";
     items.remove = nullptr;
     EXPECT_FALSE(listLines(items)[0].remove) << "fixed lists show no remove buttons";
     EXPECT_TRUE(listLines(SettingsRow::ItemList{}).empty());
@@ -164,6 +168,33 @@ TEST(SettingsRowDisplayTest, EntriesMoveOnlyWithinTheList) {
     EXPECT_EQ(moveTarget(2, 3, 1), std::nullopt);
     EXPECT_EQ(moveTarget(0, 1, 1), std::nullopt) << "a lone entry stays";
     EXPECT_EQ(moveTarget(3, 3, -1), std::nullopt) << "an entry that is gone does not move";
+}
+
+TEST(SettingsRowDisplayTest, EditableLinesActOnTheirOwnEntry) {
+    std::vector<std::string> calls;
+    SettingsRow::EditableList list;
+    list.setKey = [&](std::size_t index, const std::string& text) {
+        calls.push_back("key " + std::to_string(index) + " " + text);
+    };
+    list.remove = [&](std::size_t index) { calls.push_back("remove " + std::to_string(index)); };
+    auto first = editableLineActions(list, 0, 3);
+    EXPECT_TRUE(first.moves.empty()) << "a list in a fixed order shows no move buttons";
+    first.setKey("a");
+    first.setValue("no binding, no call");
+    editableLineActions(list, 2, 3).remove();
+
+    list.move = [&](std::size_t from, std::size_t to) {
+        calls.push_back("move " + std::to_string(from) + " " + std::to_string(to));
+    };
+    first = editableLineActions(list, 0, 3);
+    ASSERT_EQ(first.moves.size(), 2u);
+    EXPECT_FALSE(first.moves[0].action) << "the first entry cannot move up";
+    first.moves[1].action();
+    const auto last = editableLineActions(list, 2, 3);
+    EXPECT_FALSE(last.moves[1].action) << "the last entry cannot move down";
+    last.moves[0].action();
+    EXPECT_EQ(calls, (std::vector<std::string>{"key 0 a", "remove 2", "move 0 1", "move 2 1"}));
+    EXPECT_TRUE(editableEntries(list).empty());
 }
 
 }  // namespace
