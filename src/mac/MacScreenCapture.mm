@@ -36,10 +36,7 @@ CGRect cgRect(const Rect& rect) {
     return CGRectMake(rect.minX(), rect.minY(), rect.width(), rect.height());
 }
 
-std::string describe(NSError* error) {
-    return error != nil ? quorvane::utf8String(error.localizedDescription)
-                        : std::string("no reason given");
-}
+std::string describe(NSError* error) { return quorvane::errorText(error, "no reason given"); }
 
 // The filter for a target, from freshly listed content; nil when the display or window is
 // gone.
