@@ -7,6 +7,12 @@ namespace quorvane {
 
 namespace {
 
+static_assert(static_cast<long>(ServiceStatus::notRegistered) == SMAppServiceStatusNotRegistered &&
+              static_cast<long>(ServiceStatus::enabled) == SMAppServiceStatusEnabled &&
+              static_cast<long>(ServiceStatus::requiresApproval) ==
+                  SMAppServiceStatusRequiresApproval &&
+              static_cast<long>(ServiceStatus::notFound) == SMAppServiceStatusNotFound);
+
 std::string describe(BOOL succeeded, NSError* error) {
     return succeeded ? std::string() : errorText(error, "unknown error");
 }

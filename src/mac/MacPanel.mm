@@ -29,8 +29,9 @@ NSView* makeLevelBar(const LevelBar& bar) {
             fixSize([[NSView alloc] init], LevelBar::kSegmentWidth, LevelBar::kSegmentHeight);
         segment.wantsLayer = YES;
         segment.layer.cornerRadius = LevelBar::kCornerRadius;
-        segment.layer.backgroundColor =
-            [[NSColor labelColor] colorWithAlphaComponent:bar.segmentOpacity(index)].CGColor;
+        // The view's opacity dims the label colour without replacing the colour's own.
+        segment.layer.backgroundColor = [NSColor labelColor].CGColor;
+        segment.alphaValue = bar.segmentOpacity(index);
         [row addArrangedSubview:segment];
     }
     return row;

@@ -25,6 +25,11 @@ struct SystemPowerRegistration {
 
 static_assert(PowerManagement::kCanSystemSleep == kIOMessageCanSystemSleep &&
               PowerManagement::kSystemWillSleep == kIOMessageSystemWillSleep);
+static_assert(RepeatingPowerEvents::kPowerOnKey == kIOPMRepeatingPowerOnKey &&
+              RepeatingPowerEvents::kPowerOffKey == kIOPMRepeatingPowerOffKey &&
+              RepeatingPowerEvents::kTypeKey == kIOPMPowerEventTypeKey &&
+              RepeatingPowerEvents::kTimeKey == kIOPMPowerEventTimeKey &&
+              RepeatingPowerEvents::kWeekdaysKey == kIOPMDaysOfWeekKey);
 
 void systemPowerMessage(void* refcon, io_service_t, uint32_t messageType, void* argument) {
     assert([NSThread isMainThread]);

@@ -11,6 +11,17 @@ namespace quorvane {
 
 namespace {
 
+static_assert(PowerSourceDescription::kNameKey == kIOPSNameKey &&
+              PowerSourceDescription::kTypeKey == kIOPSTypeKey &&
+              PowerSourceDescription::kStateKey == kIOPSPowerSourceStateKey &&
+              PowerSourceDescription::kIsPresentKey == kIOPSIsPresentKey &&
+              PowerSourceDescription::kIsChargingKey == kIOPSIsChargingKey &&
+              PowerSourceDescription::kCurrentCapacityKey == kIOPSCurrentCapacityKey &&
+              PowerSourceDescription::kMaxCapacityKey == kIOPSMaxCapacityKey &&
+              std::string_view(PowerSourceDescription::kInternalBattery) ==
+                  kIOPSInternalBatteryType &&
+              std::string_view(PowerSourceDescription::kACPower) == kIOPSACPowerValue);
+
 void powerSourcesChanged(void* context) {
     assert([NSThread isMainThread]);
     try {

@@ -1,5 +1,6 @@
 #include "platform/HIDBatteryReading.hpp"
 
+#include <cmath>
 #include <limits>
 #include <utility>
 
@@ -9,10 +10,12 @@ namespace quorvane {
 
 std::optional<HIDBatteryReading> HIDBatteryReading::read(
     const PreferenceValue::Dictionary& properties) {
+    // As a whole number, whether the registry stores it as an integer or as a real (64.0).
     const auto* value = field(properties, "BatteryPercent");
-    const auto* percent = value ? value->integer() : nullptr;
-    if (percent == nullptr || *percent < std::numeric_limits<int>::min() ||
-        *percent > std::numeric_limits<int>::max()) {
+    const auto percent = value && !value->boolean() ? value->number() : std::nullopt;
+    if (!percent || std::trunc(*percent) != *percent ||
+        !(*percent >= std::numeric_limits<int>::min() &&
+          *percent <= std::numeric_limits<int>::max())) {
         return std::nullopt;
     }
     auto serial = stringField(properties, "SerialNumber").value_or("");

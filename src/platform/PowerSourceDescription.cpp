@@ -6,15 +6,14 @@ namespace quorvane {
 
 PowerSourceDescription PowerSourceDescription::read(
     const PreferenceValue::Dictionary& description) {
-    // The key strings are IOPSKeys.h's.
     PowerSourceDescription source;
-    source.name = stringField(description, "Name").value_or("");
-    source.type = stringField(description, "Type").value_or("");
-    source.powerSourceState = stringField(description, "Power Source State").value_or("");
-    source.isPresent = booleanField(description, "Is Present").value_or(false);
-    source.isCharging = booleanField(description, "Is Charging");
-    source.currentCapacity = integerField(description, "Current Capacity");
-    source.maxCapacity = integerField(description, "Max Capacity");
+    source.name = stringField(description, kNameKey).value_or("");
+    source.type = stringField(description, kTypeKey).value_or("");
+    source.powerSourceState = stringField(description, kStateKey).value_or("");
+    source.isPresent = booleanField(description, kIsPresentKey).value_or(false);
+    source.isCharging = booleanField(description, kIsChargingKey);
+    source.currentCapacity = integerField(description, kCurrentCapacityKey);
+    source.maxCapacity = integerField(description, kMaxCapacityKey);
     return source;
 }
 

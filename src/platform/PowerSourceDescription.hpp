@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "platform/PreferenceValue.hpp"
 
@@ -19,6 +20,14 @@ struct PowerSourceDescription {
     std::optional<int> maxCapacity;      // kIOPSMaxCapacityKey
     static constexpr const char* kInternalBattery = "InternalBattery";
     static constexpr const char* kACPower = "AC Power";
+    // The keys' strings; the Mac layer checks each against the system's name for it.
+    static constexpr std::string_view kNameKey = "Name";
+    static constexpr std::string_view kTypeKey = "Type";
+    static constexpr std::string_view kStateKey = "Power Source State";
+    static constexpr std::string_view kIsPresentKey = "Is Present";
+    static constexpr std::string_view kIsChargingKey = "Is Charging";
+    static constexpr std::string_view kCurrentCapacityKey = "Current Capacity";
+    static constexpr std::string_view kMaxCapacityKey = "Max Capacity";
 
     // The description's keys above, by the strings IOPSKeys.h gives them.
     static PowerSourceDescription read(const PreferenceValue::Dictionary& description);

@@ -16,9 +16,9 @@ std::optional<RepeatingPowerEvents::Event> event(const PreferenceValue::Dictiona
     if (fields == nullptr) {
         return std::nullopt;
     }
-    auto type = stringField(*fields, "eventtype");
-    const auto minutes = integerField(*fields, "time");
-    const auto weekdays = integerField(*fields, "weekdays");
+    auto type = stringField(*fields, RepeatingPowerEvents::kTypeKey);
+    const auto minutes = integerField(*fields, RepeatingPowerEvents::kTimeKey);
+    const auto weekdays = integerField(*fields, RepeatingPowerEvents::kWeekdaysKey);
     if (!type || !minutes || !weekdays) {
         return std::nullopt;
     }
@@ -28,9 +28,9 @@ std::optional<RepeatingPowerEvents::Event> event(const PreferenceValue::Dictiona
 }  // namespace
 
 RepeatingPowerEvents RepeatingPowerEvents::read(const PreferenceValue::Dictionary& events) {
-    // unconfirmed: check on a Mac first (the key strings of IOPMKeys.h and the weekday bits,
-    // Monday in bit 0, are as pmset's repeat command reads them).
-    return {event(events, "RepeatingPowerOn"), event(events, "RepeatingPowerOff")};
+    // unconfirmed: check on a Mac first (the weekday bits, Monday in bit 0, are as pmset's
+    // repeat command reads them).
+    return {event(events, kPowerOnKey), event(events, kPowerOffKey)};
 }
 
 }  // namespace quorvane

@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "platform/PreferenceValue.hpp"
 
@@ -22,6 +23,12 @@ struct RepeatingPowerEvents {
     };
     std::optional<Event> powerOn;   // kIOPMRepeatingPowerOnKey
     std::optional<Event> powerOff;  // kIOPMRepeatingPowerOffKey
+    // The keys' strings; the Mac layer checks each against the system's name for it.
+    static constexpr std::string_view kPowerOnKey = "RepeatingPowerOn";
+    static constexpr std::string_view kPowerOffKey = "RepeatingPowerOff";
+    static constexpr std::string_view kTypeKey = "eventtype";
+    static constexpr std::string_view kTimeKey = "time";
+    static constexpr std::string_view kWeekdaysKey = "weekdays";
 
     // IOPMCopyRepeatingPowerEvents' dictionary; an event lacking any of its three keys is none.
     static RepeatingPowerEvents read(const PreferenceValue::Dictionary& events);

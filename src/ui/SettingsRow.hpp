@@ -152,6 +152,10 @@ struct SettingsRow {
         return {Warning{{}, [&error] { return error.value_or(std::string()); }},
                 [&error] { return error.has_value() && !error->empty(); }};
     }
+    // The row reads the error it is given for as long as the page lives: a temporary would be
+    // gone by the first refresh.
+    static SettingsRow errorWarning(std::string&&) = delete;
+    static SettingsRow errorWarning(std::optional<std::string>&&) = delete;
 };
 
 }  // namespace quorvane

@@ -19,6 +19,7 @@ TEST(HIDBatteryReading, NeedsAWholePercentageAndFallsBackToTheDeviceAddress) {
     EXPECT_EQ(HIDBatteryReading::read({{"Product", "USB Keyboard"}}), std::nullopt);
     EXPECT_EQ(HIDBatteryReading::read({{"BatteryPercent", "64"}}), std::nullopt);
     EXPECT_EQ(HIDBatteryReading::read({{"BatteryPercent", 64.5}}), std::nullopt);
+    EXPECT_EQ(HIDBatteryReading::read({{"BatteryPercent", 64.0}}), (HIDBatteryReading{"", "", 64}));
 }
 
 }  // namespace

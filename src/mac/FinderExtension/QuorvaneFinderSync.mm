@@ -75,14 +75,14 @@ quorvane::FinderMenu::Click click() {
                               quorvane::FinderMenu::title(quorvane::FinderMenu::kEntries[index]))
                    action:@selector(chooseEntry:)
             keyEquivalent:@""];
-        item.tag = static_cast<NSInteger>(index);
+        item.tag = quorvane::FinderMenu::tagAt(index);
         [menu addItem:item];
     }
     return menu;
 }
 
 - (IBAction)chooseEntry:(NSMenuItem*)sender {
-    const auto entry = quorvane::FinderMenu::entryAt(sender.tag);
+    const auto entry = quorvane::FinderMenu::entryForTag(sender.tag);
     if (const auto request =
             entry ? quorvane::FinderMenu::request(*entry, click()) : std::nullopt) {
         send(*request);

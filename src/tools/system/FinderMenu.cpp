@@ -23,11 +23,11 @@ std::string kindOf(FinderMenu::Entry entry) {
 
 }  // namespace
 
-std::optional<FinderMenu::Entry> FinderMenu::entryAt(long index) {
-    if (index < 0 || index >= static_cast<long>(std::size(kEntries))) {
+std::optional<FinderMenu::Entry> FinderMenu::entryForTag(long tag) {
+    if (tag < 1 || tag > static_cast<long>(std::size(kEntries))) {
         return std::nullopt;
     }
-    return kEntries[index];
+    return kEntries[static_cast<std::size_t>(tag - 1)];
 }
 
 std::string FinderMenu::title(Entry entry) {

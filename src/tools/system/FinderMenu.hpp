@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <vector>
@@ -25,8 +26,10 @@ struct FinderMenu {
     };
 
     static std::string title(Entry entry);
-    // The entry at that place in kEntries, as a menu item's tag names it; nothing for any other.
-    static std::optional<Entry> entryAt(long index);
+    // A menu item's tag names its entry: the place in kEntries counted from 1, because 0 is
+    // every item's tag until one is set, and a sender that lost ours must choose nothing.
+    static long tagAt(std::size_t index) { return static_cast<long>(index) + 1; }
+    static std::optional<Entry> entryForTag(long tag);
     // Nothing when the click names no place to act on.
     static std::optional<FinderRequest> request(Entry entry, const Click& click);
 };

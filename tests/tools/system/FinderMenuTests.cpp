@@ -49,11 +49,14 @@ TEST(FinderMenuTests, AClickThatNamesNothingSendsNothing) {
     }
 }
 
-TEST(FinderMenuTests, AMenuItemsTagNamesTheEntryAtThatPlace) {
-    EXPECT_EQ(FinderMenu::entryAt(0), Entry::newTextFile);
-    EXPECT_EQ(FinderMenu::entryAt(3), Entry::copyPath);
-    EXPECT_EQ(FinderMenu::entryAt(4), std::nullopt);
-    EXPECT_EQ(FinderMenu::entryAt(-1), std::nullopt);
+TEST(FinderMenuTests, AMenuItemsTagNamesItsEntryAndAMissingTagNone) {
+    for (std::size_t index = 0; index < std::size(FinderMenu::kEntries); ++index) {
+        EXPECT_EQ(FinderMenu::entryForTag(FinderMenu::tagAt(index)), FinderMenu::kEntries[index]);
+    }
+    // 0 is the tag of an item nobody tagged.
+    EXPECT_EQ(FinderMenu::entryForTag(0), std::nullopt);
+    EXPECT_EQ(FinderMenu::entryForTag(FinderMenu::tagAt(std::size(FinderMenu::kEntries))),
+              std::nullopt);
 }
 
 }  // namespace
