@@ -132,7 +132,6 @@ struct AppState {
 }
 
 - (void)applicationDidFinishLaunching:(NSNotification*)notification {
-    (void)notification;
     // Info.plist already says LSUIElement; saying it here too keeps an unbundled debug run
     // out of the Dock as well.
     [NSApp setActivationPolicy:NSApplicationActivationPolicyAccessory];
@@ -142,7 +141,6 @@ struct AppState {
 }
 
 - (void)applicationWillTerminate:(NSNotification*)notification {
-    (void)notification;
     if (_state) {
         _state->lifecycle.willTerminate();
     }
@@ -151,7 +149,6 @@ struct AppState {
 // Opening Quorvane again while it runs (from Finder or Spotlight) shows its settings: with
 // the menu-bar item hidden or crowded out, that is the way back in.
 - (BOOL)applicationShouldHandleReopen:(NSApplication*)sender hasVisibleWindows:(BOOL)flag {
-    (void)flag;
     [self showSettings:sender];
     return NO;
 }
@@ -193,7 +190,6 @@ struct AppState {
 // Archives the app declares as documents, opened from Finder.
 // unconfirmed: check on a Mac first (-application:openURLs: is written from Apple's reference).
 - (void)application:(NSApplication*)application openURLs:(NSArray<NSURL*>*)urls {
-    (void)application;
     std::vector<std::string> paths;
     for (NSURL* url in urls) {
         if (url.isFileURL) {
@@ -204,7 +200,6 @@ struct AppState {
 }
 
 - (void)showSettings:(id)sender {
-    (void)sender;
     if (_state) {
         _state->lifecycle.showSettings();
     }

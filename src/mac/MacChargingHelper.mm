@@ -68,8 +68,7 @@ public:
         // The answer is awaited: the helper only writes two keys, and the tool decides its next
         // step on it. A connection that fails answers through the error handler instead.
         id<QVChargingHelper> helper =
-            [connection_ synchronousRemoteObjectProxyWithErrorHandler:^(NSError* error) {
-              (void)error;
+            [connection_ synchronousRemoteObjectProxyWithErrorHandler:^(NSError*) {
               status = kUnreachable;
             }];
         [helper setChargingEnabled:enabled ? YES : NO

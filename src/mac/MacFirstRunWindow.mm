@@ -106,7 +106,6 @@ constexpr CGFloat kWidth = 520;
 }
 
 - (void)windowWillClose:(NSNotification*)notification {
-    (void)notification;
     // Closed without "Get Started": not shown again, and nothing is switched on.
     _model->dismiss();
 }

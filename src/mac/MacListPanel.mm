@@ -113,8 +113,7 @@ using quorvane::ListPanelRow;
         addObserverForName:NSWindowDidResignKeyNotification
                     object:_panel
                      queue:nil
-                usingBlock:^(NSNotification* note) {
-                  (void)note;
+                usingBlock:^(NSNotification*) {
                   QVListPanelController* strongSelf = weakSelf;
                   if (strongSelf != nil) {
                       quorvane::callIfSet(strongSelf->_handlers.resignedKey);
@@ -234,7 +233,6 @@ using quorvane::ListPanelRow;
 }
 
 - (void)rowClicked:(id)sender {
-    (void)sender;
     const NSInteger row = _table.clickedRow;
     if (row >= 0) {
         quorvane::callIfSet(_handlers.rowClicked, static_cast<std::size_t>(row));
@@ -242,20 +240,16 @@ using quorvane::ListPanelRow;
 }
 
 - (void)controlTextDidChange:(NSNotification*)notification {
-    (void)notification;
     quorvane::callIfSet(_handlers.queryChanged, quorvane::utf8String(_search.stringValue));
 }
 
 - (NSInteger)numberOfRowsInTableView:(NSTableView*)tableView {
-    (void)tableView;
     return static_cast<NSInteger>(_content.rowCount);
 }
 
 - (NSView*)tableView:(NSTableView*)tableView
     viewForTableColumn:(NSTableColumn*)tableColumn
                    row:(NSInteger)index {
-    (void)tableView;
-    (void)tableColumn;
     if (!_handlers.row || index < 0) {
         return nil;
     }

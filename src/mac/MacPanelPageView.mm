@@ -68,12 +68,10 @@ struct PanelPageState {
 }
 
 - (void)mouseEntered:(NSEvent*)event {
-    (void)event;
     _state->page.pointerInside(true);
 }
 
 - (void)mouseExited:(NSEvent*)event {
-    (void)event;
     _state->page.pointerInside(false);
     [self sourceChanged];
 }

@@ -218,17 +218,14 @@ __attribute__((availability(macos, introduced = 15.0)))
 }
 
 - (void)stream:(SCStream*)stream didStopWithError:(NSError*)error {
-    (void)stream;
     [self reportLater:error];
 }
 
 - (void)recordingOutput:(SCRecordingOutput*)recordingOutput didFailWithError:(NSError*)error {
-    (void)recordingOutput;
     [self reportLater:error];
 }
 
 - (void)recordingOutputDidFinishRecording:(SCRecordingOutput*)recordingOutput {
-    (void)recordingOutput;
     dispatch_async(dispatch_get_main_queue(), ^{
       [self report:""];
     });
@@ -257,7 +254,6 @@ __attribute__((availability(macos, introduced = 15.0)))
 }
 
 - (BOOL)acceptsFirstMouse:(NSEvent*)event {
-    (void)event;
     return YES;
 }
 
@@ -288,7 +284,6 @@ __attribute__((availability(macos, introduced = 15.0)))
 }
 
 - (void)rightMouseDown:(NSEvent*)event {
-    (void)event;
     self.finished(NSZeroRect, NO);
 }
 
@@ -299,7 +294,6 @@ __attribute__((availability(macos, introduced = 15.0)))
 }
 
 - (void)drawRect:(NSRect)dirtyRect {
-    (void)dirtyRect;
     [[NSColor colorWithCalibratedWhite:0 alpha:0.15] setFill];
     NSRectFill(self.bounds);
     if (_selection.size.width > 0 && _selection.size.height > 0) {

@@ -203,15 +203,12 @@ constexpr CGFloat kPageWidth = 520;
 }
 
 - (NSInteger)numberOfRowsInTableView:(NSTableView*)tableView {
-    (void)tableView;
     return static_cast<NSInteger>(_rows.size());
 }
 
 - (NSView*)tableView:(NSTableView*)tableView
     viewForTableColumn:(NSTableColumn*)tableColumn
                    row:(NSInteger)row {
-    (void)tableView;
-    (void)tableColumn;
     const Model::SidebarRow& entry = _rows[static_cast<std::size_t>(row)];
     if (entry.kind == SidebarKind::category) {
         NSTextField* heading = quorvane::makeHeading(entry.title, 11);
@@ -231,17 +228,14 @@ constexpr CGFloat kPageWidth = 520;
 }
 
 - (BOOL)tableView:(NSTableView*)tableView isGroupRow:(NSInteger)row {
-    (void)tableView;
     return _rows[static_cast<std::size_t>(row)].kind == SidebarKind::category;
 }
 
 - (BOOL)tableView:(NSTableView*)tableView shouldSelectRow:(NSInteger)row {
-    (void)tableView;
     return _rows[static_cast<std::size_t>(row)].kind != SidebarKind::category;
 }
 
 - (void)tableViewSelectionDidChange:(NSNotification*)notification {
-    (void)notification;
     const NSInteger row = _sidebar.selectedRow;
     if (!_reloadingSidebar && row >= 0) {
         _model->selectRow(static_cast<std::size_t>(row));
@@ -259,7 +253,6 @@ constexpr CGFloat kPageWidth = 520;
 }
 
 - (void)windowWillClose:(NSNotification*)notification {
-    (void)notification;
     [self stopRecording];
 }
 

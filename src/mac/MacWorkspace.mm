@@ -77,7 +77,6 @@ NSNotificationName notificationName(WorkspaceNotification notification) {
 }
 
 - (void)deliver:(NSNotification*)notification {
-    (void)notification;
     // unconfirmed: check on a Mac first that the workspace sends its key-value changes on the
     // main thread; distributed posts arrive on the main thread's run loop.
     assert([NSThread isMainThread]);
@@ -88,10 +87,6 @@ NSNotificationName notificationName(WorkspaceNotification notification) {
                       ofObject:(id)object
                         change:(NSDictionary<NSKeyValueChangeKey, id>*)change
                        context:(void*)context {
-    (void)keyPath;
-    (void)object;
-    (void)change;
-    (void)context;
     [self deliver:nil];
 }
 

@@ -42,7 +42,6 @@
 
 - (BOOL)listener:(NSXPCListener*)listener
     shouldAcceptNewConnection:(NSXPCConnection*)newConnection {
-    (void)listener;
     const auto requirement = quorvane::chargingHelperPeerRequirement(QV_DEVELOPMENT_TEAM);
     if (!requirement) {
         return NO;
