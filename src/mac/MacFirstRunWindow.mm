@@ -1,10 +1,8 @@
 #include "mac/MacFirstRunWindow.hpp"
 
-#include <string>
-
 #include "base/Subscription.hpp"
 #include "mac/MacRefresher.hpp"
-#include "mac/MacPermissionCardView.hpp"
+#include "mac/MacViewNode.hpp"
 #include "mac/MacViews.hpp"
 #include "ui/FirstRunModel.hpp"
 
@@ -16,17 +14,13 @@ constexpr CGFloat kWidth = 520;
 
 }  // namespace
 
-// unconfirmed: check on a Mac first. NSWindowController, the window delegate's
-// windowWillClose:, NSButton's key equivalent and checkbox state are not in the fact sheet.
+// unconfirmed: check on a Mac first. NSWindowController and the window delegate's
+// windowWillClose: are not in the fact sheet.
 @implementation QVFirstRunWindowController {
     Model* _model;
     quorvane::Subscription _changes;
-    NSTextField* _permissionsIntro;
-    NSStackView* _cards;
-    NSStackView* _suggestions;
+    NSStackView* _content;
     NSMutableArray* _targets;
-    NSMutableArray* _cardTargets;
-    NSMutableArray* _suggestionTargets;
 }
 
 - (instancetype)initWithModel:(Model&)model {
@@ -44,32 +38,10 @@ constexpr CGFloat kWidth = 520;
     }
     _model = &model;
     _targets = [NSMutableArray array];
-    _cardTargets = [NSMutableArray array];
-    _suggestionTargets = [NSMutableArray array];
-    Model* target = _model;
     window.delegate = self;
 
-    _cards = quorvane::makeColumn(12);
-    _suggestions = quorvane::makeColumn(10);
-    _permissionsIntro = quorvane::makeSecondaryLabel(model.permissionsIntro(), kWidth);
-    NSButton* finish = quorvane::makeButton(Model::kFinishTitle, _targets, ^{
-      target->finish();
-    });
-    // Return presses it.
-    finish.keyEquivalent = @"\r";
-    NSStackView* content = quorvane::makeColumn(14, @[
-        quorvane::makeHeading(Model::kTitle, 22),
-        quorvane::makeWrappingLabel(Model::kIntro, kWidth),
-        // The permissions follow the picks, since only the picked tools' are asked for.
-        quorvane::makeHeading(Model::kPickTitle, 15),
-        _suggestions,
-        quorvane::makeHeading(Model::kPermissionsTitle, 15),
-        _permissionsIntro,
-        _cards,
-        finish,
-    ]);
-
-    NSScrollView* scroll = quorvane::makeScrollView(content, 24);
+    _content = quorvane::makeColumn(0);
+    NSScrollView* scroll = quorvane::makeScrollView(_content, 24);
     [window.contentView addSubview:scroll];
     quorvane::pinEdges(scroll, window.contentView, 0);
     [window center];
@@ -84,25 +56,7 @@ constexpr CGFloat kWidth = 520;
 }
 
 - (void)refresh {
-    _permissionsIntro.stringValue = quorvane::text(_model->permissionsIntro());
-    quorvane::fillPermissionCards(_cards, *_model, _cardTargets, kWidth);
-    quorvane::removeArrangedViews(_suggestions, _suggestionTargets);
-    const auto suggestions = _model->suggestions();
-    if (suggestions.empty()) {
-        [_suggestions
-            addArrangedSubview:quorvane::makeSecondaryLabel(Model::kNothingToPick, kWidth)];
-    }
-    Model* model = _model;
-    for (const auto& suggestion : suggestions) {
-        const std::string toolID = suggestion.toolID;
-        NSButton* box = quorvane::makeCheckbox(suggestion.name, suggestion.isPicked,
-                                               _suggestionTargets, ^(bool on) {
-                                                 model->setPicked(toolID, on);
-                                               });
-        [_suggestions addArrangedSubview:quorvane::makeColumn(2, @[
-                          box, quorvane::makeSecondaryLabel(suggestion.summary, kWidth - 20)
-                      ])];
-    }
+    quorvane::fillStack(_content, _model->view(kWidth), _targets);
 }
 
 - (void)windowWillClose:(NSNotification*)notification {

@@ -6,9 +6,10 @@
 #include "base/Subscription.hpp"
 #include "mac/MacActionTarget.hpp"
 #include "mac/MacRefresher.hpp"
-#include "mac/MacPermissionCardView.hpp"
 #include "mac/MacSettingsPageView.hpp"
+#include "mac/MacViewNode.hpp"
 #include "mac/MacViews.hpp"
+#include "ui/PermissionCardsView.hpp"
 #include "ui/SettingsWindowModel.hpp"
 
 namespace {
@@ -153,8 +154,8 @@ constexpr CGFloat kPageWidth = 520;
     // elsewhere.
     quorvane::showUnlessEditing(_search, _model->query());
 
-    [self rebuildHeader];
-    quorvane::fillPermissionCards(_cards, *_model, _cardTargets, kPageWidth);
+    quorvane::fillStack(_header, _model->headerView(kPageWidth), _headerTargets);
+    quorvane::fillStack(_cards, quorvane::permissionCardsView(*_model, kPageWidth), _cardTargets);
     if (_model->pageGeneration() != _pageGeneration) {
         _pageGeneration = _model->pageGeneration();
         [self stopRecording];
@@ -166,42 +167,6 @@ constexpr CGFloat kPageWidth = 520;
     }
 }
 
-- (void)rebuildHeader {
-    quorvane::removeArrangedViews(_header, _headerTargets);
-    const Model::Header header = _model->header();
-    Model* model = _model;
-
-    NSStackView* titleColumn = quorvane::makeColumn(4, @[
-        quorvane::makeHeading(header.title, 20),
-        quorvane::makeWrappingLabel(header.summary, kPageWidth - 60),
-    ]);
-    if (!header.status.empty()) {
-        [titleColumn addArrangedSubview:quorvane::makeSecondaryLabel(header.status, kPageWidth)];
-    }
-    NSStackView* top =
-        quorvane::makeRow(12, @[ quorvane::makeSymbol(header.systemImage, 28), titleColumn ]);
-    top.alignment = NSLayoutAttributeTop;
-    if (header.hasSwitch) {
-        NSSwitch* toggle = [[NSSwitch alloc] initWithFrame:NSZeroRect];
-        toggle.state = quorvane::stateValue(header.isOn);
-        toggle.enabled = header.isSwitchable;
-        [QVActionTarget bind:toggle
-                        keep:_headerTargets
-                     handler:^(id) {
-                       model->setSwitch(toggle.state == NSControlStateValueOn);
-                     }];
-        [top addArrangedSubview:toggle];
-    }
-    [_header addArrangedSubview:top];
-
-    if (header.hasMenuToggle) {
-        [_header addArrangedSubview:quorvane::makeCheckbox(Model::kShowInMenuLabel, header.isInMenu,
-                                                           _headerTargets, ^(bool on) {
-                                                             model->setInMenu(on);
-                                                           })];
-    }
-}
-
 - (NSInteger)numberOfRowsInTableView:(NSTableView*)tableView {
     return static_cast<NSInteger>(_rows.size());
 }
@@ -209,22 +174,7 @@ constexpr CGFloat kPageWidth = 520;
 - (NSView*)tableView:(NSTableView*)tableView
     viewForTableColumn:(NSTableColumn*)tableColumn
                    row:(NSInteger)row {
-    const Model::SidebarRow& entry = _rows[static_cast<std::size_t>(row)];
-    if (entry.kind == SidebarKind::category) {
-        NSTextField* heading = quorvane::makeHeading(entry.title, 11);
-        heading.textColor = quorvane::color(entry.titleColor());
-        return heading;
-    }
-    NSTextField* name = quorvane::makeLabel(entry.title);
-    name.lineBreakMode = NSLineBreakByTruncatingTail;
-    name.textColor = quorvane::color(entry.titleColor());
-    NSStackView* line =
-        quorvane::makeRow(6, @[ quorvane::makeSymbol(entry.systemImage, 13), name ]);
-    if (entry.isOn) {
-        [line addArrangedSubview:quorvane::makeSymbol(Model::kOnIndicator, 7,
-                                                      Model::kOnIndicatorColor)];
-    }
-    return line;
+    return quorvane::makeView(_rows[static_cast<std::size_t>(row)].view(), nil);
 }
 
 - (BOOL)tableView:(NSTableView*)tableView isGroupRow:(NSInteger)row {

@@ -6,6 +6,7 @@
 #include "app/PermissionCenter.hpp"
 #include "app/ToolRegistry.hpp"
 #include "platform/Preferences.hpp"
+#include "ui/PermissionCardsView.hpp"
 
 namespace quorvane {
 
@@ -72,6 +73,29 @@ void FirstRunModel::setPicked(std::string_view toolID, bool picked) {
     if (picked ? picked_.insert(id).second : picked_.erase(id) > 0) {
         publish();
     }
+}
+
+ViewNode FirstRunModel::view(double width) {
+    ViewNode picks = ViewNode::column(10);
+    const auto offered = suggestions();
+    if (offered.empty()) {
+        picks.children.push_back(ViewNode::secondaryLabel(kNothingToPick, width));
+    }
+    for (const auto& suggestion : offered) {
+        picks.children.push_back(ViewNode::column(
+            2, {ViewNode::checkbox(suggestion.name, suggestion.isPicked,
+                                   [this, id = suggestion.toolID](bool on) { setPicked(id, on); }),
+                ViewNode::secondaryLabel(suggestion.summary, width - 20)}));
+    }
+    ViewNode start = ViewNode::button(kFinishTitle, [this] { finish(); });
+    start.keyEquivalent = "\r";
+    // The permissions follow the picks, since only the picked tools' are asked for.
+    return ViewNode::column(14,
+                            {ViewNode::heading(kTitle, 22), ViewNode::wrappingLabel(kIntro, width),
+                             ViewNode::heading(kPickTitle, 15), std::move(picks),
+                             ViewNode::heading(kPermissionsTitle, 15),
+                             ViewNode::secondaryLabel(std::string(permissionsIntro()), width),
+                             permissionCardsView(*this, width), std::move(start)});
 }
 
 void FirstRunModel::finish() {

@@ -11,6 +11,7 @@
 #include "app/PermissionCardSource.hpp"
 #include "base/Observable.hpp"
 #include "base/Subscription.hpp"
+#include "ui/ViewNode.hpp"
 
 namespace quorvane {
 
@@ -68,6 +69,9 @@ public:
     // The favourites that are available, then other available tools in registry order.
     std::vector<Suggestion> suggestions() const;
     void setPicked(std::string_view toolID, bool picked);
+
+    // The whole welcome, `width` wide; its controls act on this model.
+    ViewNode view(double width);
 
     // Switches the picked tools on and closes the welcome for good.
     void finish();

@@ -1,6 +1,9 @@
 #include "ui/MenuModel.hpp"
 
+#include <utility>
+
 #include "app/ToolRegistry.hpp"
+#include "ui/TileGrid.hpp"
 #include "ui/ToolStatus.hpp"
 
 namespace quorvane {
@@ -58,6 +61,36 @@ void MenuModel::press(std::string_view toolID) {
     } else {
         registry_.setEnabled(false, *tool, true);
     }
+}
+
+ViewNode MenuModel::view() {
+    ViewNode grid = ViewNode::column(TileGrid::kSpacing);
+    const auto shown = tiles();
+    if (shown.empty()) {
+        grid.children.push_back(ViewNode::secondaryLabel(kEmptyText, TileGrid::kWidth));
+    }
+    for (const auto& row : TileGrid::rows(shown)) {
+        ViewNode line = ViewNode::row(TileGrid::kSpacing);
+        for (const auto& tile : row) {
+            ViewNode button =
+                ViewNode::tile(tile.title, tile.systemImage, tile.isOn, TileGrid::kTileWidth,
+                               TileGrid::kTileHeight, [this, id = tile.toolID] { press(id); });
+            button.toolTip = tile.status;
+            line.children.push_back(std::move(button));
+        }
+        grid.children.push_back(std::move(line));
+    }
+    // Borderless with their shortcuts, as in any app's own menu.
+    const auto item = [](const char* title, const char* key, std::function<void()> action) {
+        ViewNode button = ViewNode::button(title, std::move(action));
+        button.isBordered = false;
+        button.keyEquivalent = key;
+        button.withCommand = true;
+        return button;
+    };
+    return ViewNode::column(8, {std::move(grid), ViewNode::separator(TileGrid::kWidth),
+                                item(kSettingsTitle, ",", [this] { openSettings(); }),
+                                item(kQuitTitle, "q", [this] { quit(); })});
 }
 
 void MenuModel::openSettings() const {

@@ -7,6 +7,7 @@
 
 #include "base/Observable.hpp"
 #include "base/Subscription.hpp"
+#include "ui/ViewNode.hpp"
 
 namespace quorvane {
 
@@ -36,6 +37,9 @@ public:
     // A tile switches an off tool on; on a tool that is on, it works the tool's control, or
     // switches the tool off when the control has no action of its own.
     void press(std::string_view toolID);
+
+    // The tiles in rows, then "Settings…" and "Quit Quorvane"; the buttons act on this model.
+    ViewNode view();
 
     std::function<void()> onOpenSettings;
     std::function<void()> onQuit;

@@ -37,6 +37,19 @@ ColorRole SettingsWindowModel::SidebarRow::titleColor() const {
     return isAvailable ? ColorRole::label : ColorRole::tertiaryLabel;
 }
 
+ViewNode SettingsWindowModel::SidebarRow::view() const {
+    if (kind == Kind::category) {
+        return ViewNode::heading(title, 11).colored(titleColor());
+    }
+    ViewNode name = ViewNode::label(title).colored(titleColor());
+    name.truncates = true;
+    ViewNode line = ViewNode::row(6, {ViewNode::symbolImage(systemImage, 13), std::move(name)});
+    if (isOn) {
+        line.children.push_back(ViewNode::symbolImage(kOnIndicator, 7).colored(kOnIndicatorColor));
+    }
+    return line;
+}
+
 std::vector<SettingsWindowModel::SidebarRow> SettingsWindowModel::sidebar() const {
     std::vector<SidebarRow> rows;
     if (words_.empty()) {
@@ -144,6 +157,27 @@ SettingsWindowModel::Header SettingsWindowModel::header() const {
             .isSwitchable = tool->isAvailable(),
             .hasMenuToggle = tool->isAvailable() && tool->control().has_value(),
             .isInMenu = std::find(controls.begin(), controls.end(), tool->id()) != controls.end()};
+}
+
+ViewNode SettingsWindowModel::headerView(double width) {
+    const Header shown = header();
+    ViewNode titles = ViewNode::column(4, {ViewNode::heading(shown.title, 20),
+                                           ViewNode::wrappingLabel(shown.summary, width - 60)});
+    if (!shown.status.empty()) {
+        titles.children.push_back(ViewNode::secondaryLabel(shown.status, width));
+    }
+    ViewNode top = ViewNode::row(12, {ViewNode::symbolImage(shown.systemImage, 28), titles});
+    top.alignsTop = true;
+    if (shown.hasSwitch) {
+        top.children.push_back(ViewNode::toggleSwitch(shown.isOn, shown.isSwitchable,
+                                                      [this](bool on) { setSwitch(on); }));
+    }
+    ViewNode view = ViewNode::column(10, {std::move(top)});
+    if (shown.hasMenuToggle) {
+        view.children.push_back(ViewNode::checkbox(kShowInMenuLabel, shown.isInMenu,
+                                                   [this](bool on) { setInMenu(on); }));
+    }
+    return view;
 }
 
 SettingsPage SettingsWindowModel::page() const {

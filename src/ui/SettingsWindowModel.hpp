@@ -14,6 +14,7 @@
 #include "base/Observable.hpp"
 #include "base/Subscription.hpp"
 #include "ui/SettingsPage.hpp"
+#include "ui/ViewNode.hpp"
 
 namespace quorvane {
 
@@ -49,6 +50,9 @@ public:
 
         // Headings are quieter than entries; a tool that is not available is greyed out.
         ColorRole titleColor() const;
+        // The row as the sidebar draws it: a heading, or an entry with its symbol and, for a
+        // tool that is on, a dot.
+        ViewNode view() const;
     };
 
     // The top of the page: what the entry is, and for a tool, its switches.
@@ -88,6 +92,8 @@ public:
     // refreshes its values when pageSource() publishes.
     std::uint64_t pageGeneration() const { return pageGeneration_; }
     Header header() const;
+    // The header drawn `width` wide; its switch and checkbox act on this model.
+    ViewNode headerView(double width);
     SettingsPage page() const;
     const Observable* pageSource() const;
 

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "support/LaunchedApp.hpp"
+#include "support/ViewNodeSearch.hpp"
 
 namespace quorvane {
 namespace {
@@ -93,6 +94,33 @@ TEST(FirstRunModel, ClosingTheWelcomeSwitchesNothingOnAndADamagedRecordShowsItAg
 
     launched.fakes.preferences.set(FirstRunModel::kDoneKey, "yes");
     EXPECT_TRUE(FirstRunModel::isNeeded(launched.fakes.preferences));
+}
+
+TEST(FirstRunModel, TheDrawnWelcomePicksAndFinishesThroughItsControls) {
+    LaunchedApp launched;
+    launched.add("snap", std::vector<Permission>{Permission::accessibility});
+    launched.launch();
+    FirstRunModel& welcome = launched.firstRun();
+    using Kind = ViewNode::Kind;
+
+    ViewNode view = welcome.view(500);
+    EXPECT_EQ(findNode(view, Kind::secondaryLabel, FirstRunModel::kNothingToPick), nullptr);
+    EXPECT_EQ(findNode(view, Kind::card, ""), nullptr) << "no card before a tool is picked";
+    findNode(view, Kind::checkbox, "snap")->toggled(true);
+
+    view = welcome.view(500);
+    EXPECT_TRUE(findNode(view, Kind::checkbox, "snap")->isOn);
+    EXPECT_NE(findNode(view, Kind::card, ""), nullptr) << "the picked tool's permission";
+    const ViewNode* start = findNode(view, Kind::button, FirstRunModel::kFinishTitle);
+    EXPECT_EQ(start->keyEquivalent, "\r");
+    start->action();
+    EXPECT_TRUE(launched.registry().enabledIDs().contains("snap"));
+
+    LaunchedApp empty;
+    empty.launch();
+    EXPECT_NE(
+        findNode(empty.firstRun().view(500), Kind::secondaryLabel, FirstRunModel::kNothingToPick),
+        nullptr);
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "support/LaunchedApp.hpp"
+#include "support/ViewNodeSearch.hpp"
 #include "ui/ToolStatus.hpp"
 
 namespace quorvane {
@@ -77,6 +78,39 @@ TEST(MenuModel, ATileSwitchesItsToolOnThenWorksItsControl) {
     menu.press("pin");
     EXPECT_FALSE(launched.registry().enabledIDs().contains("pin"))
         << "a tile without an action of its own switches the tool off";
+}
+
+TEST(MenuModel, TheDrawnMenuLaysTilesInRowsOfThreeAndItsItemsAct) {
+    LaunchedApp launched;
+    for (const char* id : {"a", "b", "c", "d"}) {
+        launched.add(id).hasControl = true;
+    }
+    launched.launch();
+    MenuModel& menu = launched.menu();
+    using Kind = ViewNode::Kind;
+    EXPECT_NE(findNode(menu.view(), Kind::secondaryLabel, MenuModel::kEmptyText), nullptr);
+
+    for (const char* id : {"a", "b", "c", "d"}) {
+        launched.registry().setInControls(true, launched.tool(id));
+    }
+    const ViewNode view = menu.view();
+    const ViewNode& grid = view.children.front();
+    ASSERT_EQ(grid.children.size(), 2u);
+    EXPECT_EQ(grid.children[0].children.size(), 3u);
+    EXPECT_EQ(grid.children[1].children.size(), 1u);
+    const ViewNode& last = grid.children[1].children[0];
+    EXPECT_EQ(last.kind, Kind::tile);
+    EXPECT_EQ(last.toolTip, ToolStatus::kOff);
+    last.action();
+    EXPECT_TRUE(launched.registry().enabledIDs().contains("d"));
+
+    bool opened = false;
+    menu.onOpenSettings = [&] { opened = true; };
+    const ViewNode* settings = findNode(view, Kind::button, MenuModel::kSettingsTitle);
+    EXPECT_EQ(settings->keyEquivalent, ",");
+    EXPECT_TRUE(settings->withCommand);
+    settings->action();
+    EXPECT_TRUE(opened);
 }
 
 }  // namespace

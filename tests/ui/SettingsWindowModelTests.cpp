@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "support/LaunchedApp.hpp"
+#include "support/ViewNodeSearch.hpp"
 #include "ui/ToolStatus.hpp"
 
 namespace quorvane {
@@ -143,6 +144,54 @@ TEST(SettingsWindowModel, TheHeaderSwitchesAvailableToolsOnlyAndSaysWhatTheyWait
     ASSERT_EQ(settings.cards().size(), 1u) << "only what a usable tool needs";
     EXPECT_EQ(settings.cards()[0].permission, Permission::accessibility);
     EXPECT_EQ(settings.pageSource(), nullptr);
+}
+
+TEST(SettingsWindowModel, TheDrawnHeaderAndSidebarShowOnlyWhatAppliesAndActOnTheTool) {
+    LaunchedApp launched;
+    launched.add("snap").hasControl = true;
+    launched.add("later").available = false;
+    launched.launch();
+    SettingsWindowModel& settings = launched.settings();
+    using ViewKind = ViewNode::Kind;
+
+    settings.showTool("later");
+    ViewNode header = settings.headerView(500);
+    const ViewNode* toggle = findNode(header, ViewKind::toggleSwitch, "");
+    ASSERT_NE(toggle, nullptr);
+    EXPECT_FALSE(toggle->isEnabled);
+    EXPECT_NE(findNode(header, ViewKind::secondaryLabel, ToolStatus::kUnavailable), nullptr);
+    EXPECT_EQ(findNode(header, ViewKind::checkbox, SettingsWindowModel::kShowInMenuLabel), nullptr);
+
+    settings.showTool("snap");
+    header = settings.headerView(500);
+    findNode(header, ViewKind::toggleSwitch, "")->toggled(true);
+    findNode(header, ViewKind::checkbox, SettingsWindowModel::kShowInMenuLabel)->toggled(true);
+    EXPECT_TRUE(launched.registry().enabledIDs().contains("snap"));
+    EXPECT_EQ(launched.registry().controlIDs(), (std::vector<std::string>{"snap"}));
+    EXPECT_TRUE(findNode(settings.headerView(500), ViewKind::toggleSwitch, "")->isOn);
+
+    settings.showGeneral();
+    EXPECT_EQ(findNode(settings.headerView(500), ViewKind::toggleSwitch, ""), nullptr);
+
+    std::vector<std::vector<std::string>> sidebar;
+    for (const auto& row : settings.sidebar()) {
+        sidebar.push_back(shownTexts(row.view()));
+    }
+    ASSERT_GE(sidebar.size(), 3u);
+    const auto entry = [&](const std::string& name) {
+        for (const auto& texts : sidebar) {
+            if (std::find(texts.begin(), texts.end(), name) != texts.end()) {
+                return texts;
+            }
+        }
+        return std::vector<std::string>{};
+    };
+    const std::string dot = std::string("[") + SettingsWindowModel::kOnIndicator + "]";
+    EXPECT_EQ(entry("snap").back(), dot) << "a tool that is on has its dot";
+    EXPECT_NE(entry("later").back(), dot);
+    const auto category = settings.sidebar()[1].view();
+    EXPECT_EQ(category.kind, ViewKind::heading);
+    EXPECT_EQ(category.color, ColorRole::secondaryLabel);
 }
 
 }  // namespace

@@ -1,0 +1,154 @@
+#include "mac/MacViewNode.hpp"
+
+#include <functional>
+
+#include "base/CallIfSet.hpp"
+#include "mac/MacActionTarget.hpp"
+#include "mac/MacViews.hpp"
+
+// unconfirmed: check on a Mac first. NSSwitch, NSBox (custom and separator types, corner
+// radius, colours), NSButton's image position, push-on-push-off type, bordered flag, key
+// equivalents and tool tips are written from Apple's reference, not from the fact sheet.
+namespace quorvane {
+
+namespace {
+
+using Kind = ViewNode::Kind;
+
+void addChildren(NSStackView* stack, const ViewNode& node, NSMutableArray* keep) {
+    stack.spacing = node.size;
+    for (const ViewNode& child : node.children) {
+        [stack addArrangedSubview:makeView(child, keep)];
+    }
+}
+
+// A label's own colour and truncation, where the node asks for them.
+NSTextField* shaped(NSTextField* label, const ViewNode& node) {
+    if (node.color) {
+        label.textColor = color(*node.color);
+    }
+    if (node.truncates) {
+        label.lineBreakMode = NSLineBreakByTruncatingTail;
+    }
+    return label;
+}
+
+NSButton* button(const ViewNode& node, NSMutableArray* keep) {
+    const std::function<void()> action = node.action;
+    NSButton* made = makeButton(node.text, keep, ^{
+      callIfSet(action);
+    });
+    made.bordered = node.isBordered;
+    made.keyEquivalent = text(node.keyEquivalent);
+    if (node.withCommand) {
+        made.keyEquivalentModifierMask = NSEventModifierFlagCommand;
+    }
+    made.toolTip = node.toolTip.empty() ? nil : text(node.toolTip);
+    return made;
+}
+
+NSView* tile(const ViewNode& node, NSMutableArray* keep) {
+    NSButton* made = button(node, keep);
+    // nil for a symbol this system lacks, which leaves the title alone. The title already says
+    // what the tile is, so the image needs no description of its own.
+    made.image = [NSImage imageWithSystemSymbolName:text(node.symbol) accessibilityDescription:nil];
+    made.imagePosition = NSImageAbove;
+    [made setButtonType:NSButtonTypePushOnPushOff];
+    made.state = stateValue(node.isOn);
+    return fixSize(made, node.width, node.height);
+}
+
+NSView* toggleSwitch(const ViewNode& node, NSMutableArray* keep) {
+    NSSwitch* made = [[NSSwitch alloc] initWithFrame:NSZeroRect];
+    made.state = stateValue(node.isOn);
+    made.enabled = node.isEnabled;
+    const std::function<void(bool)> toggled = node.toggled;
+    [QVActionTarget
+           bind:made
+           keep:keep
+        handler:^(id sender) {
+          callIfSet(toggled, static_cast<NSSwitch*>(sender).state == NSControlStateValueOn);
+        }];
+    return made;
+}
+
+NSView* card(const ViewNode& node, NSMutableArray* keep) {
+    NSBox* box = [[NSBox alloc] initWithFrame:NSZeroRect];
+    box.boxType = NSBoxCustom;
+    box.cornerRadius = 8;
+    box.borderColor = [NSColor separatorColor];
+    box.fillColor = [NSColor controlBackgroundColor];
+    box.titlePosition = NSNoTitle;
+    for (const ViewNode& child : node.children) {
+        NSView* content = makeView(child, keep);
+        [box.contentView addSubview:content];
+        pinEdges(content, box.contentView, 12);
+    }
+    box.translatesAutoresizingMaskIntoConstraints = NO;
+    [box.widthAnchor constraintEqualToConstant:node.width].active = YES;
+    return box;
+}
+
+NSView* separator(const ViewNode& node) {
+    NSBox* line = [[NSBox alloc] initWithFrame:NSZeroRect];
+    line.boxType = NSBoxSeparator;
+    [line.widthAnchor constraintEqualToConstant:node.width].active = YES;
+    return line;
+}
+
+}  // namespace
+
+NSView* makeView(const ViewNode& node, NSMutableArray* keep) {
+    switch (node.kind) {
+        case Kind::column: {
+            NSStackView* column = makeColumn(node.size);
+            addChildren(column, node, keep);
+            return column;
+        }
+        case Kind::row: {
+            NSStackView* row = makeRow(node.size);
+            row.alignment = node.alignsTop ? NSLayoutAttributeTop : NSLayoutAttributeCenterY;
+            addChildren(row, node, keep);
+            return row;
+        }
+        case Kind::label:
+            return shaped(makeLabel(node.text), node);
+        case Kind::heading:
+            return shaped(makeHeading(node.text, node.size), node);
+        case Kind::wrappingLabel:
+            return shaped(makeWrappingLabel(node.text, node.width), node);
+        case Kind::secondaryLabel:
+            return shaped(makeSecondaryLabel(node.text, node.width), node);
+        case Kind::styledLabel:
+            return shaped(makeStyledLabel(node.text, node.width), node);
+        case Kind::symbol:
+            return node.color ? makeSymbol(node.symbol, node.size, *node.color)
+                              : makeSymbol(node.symbol, node.size);
+        case Kind::fileIcon:
+            return makeFileIcon(node.text, node.size);
+        case Kind::button:
+            return button(node, keep);
+        case Kind::checkbox: {
+            const std::function<void(bool)> toggled = node.toggled;
+            return makeCheckbox(node.text, node.isOn, keep, ^(bool on) {
+              callIfSet(toggled, on);
+            });
+        }
+        case Kind::toggleSwitch:
+            return toggleSwitch(node, keep);
+        case Kind::tile:
+            return tile(node, keep);
+        case Kind::card:
+            return card(node, keep);
+        case Kind::separator:
+            return separator(node);
+    }
+    return [[NSView alloc] initWithFrame:NSZeroRect];
+}
+
+void fillStack(NSStackView* stack, const ViewNode& node, NSMutableArray* keep) {
+    removeArrangedViews(stack, keep);
+    addChildren(stack, node, keep);
+}
+
+}  // namespace quorvane
