@@ -15,6 +15,7 @@
 #include "base/Subscription.hpp"
 #include "input/ShortcutRecorder.hpp"
 #include "mac/MacActionTarget.hpp"
+#include "mac/MacViewNode.hpp"
 #include "mac/MacViews.hpp"
 #include "ui/SettingsRowDisplay.hpp"
 
@@ -75,13 +76,8 @@ struct PageState {
 
 - (NSView*)viewForSection:(const quorvane::SettingsSection&)section {
     NSStackView* column = quorvane::makeColumn(10);
-    if (!section.iconFile.empty()) {
-        [column addArrangedSubview:quorvane::makeRow(6, @[
-                    quorvane::makeFileIcon(section.iconFile, 16),
-                    quorvane::makeHeading(section.title, 13)
-                ])];
-    } else if (!section.title.empty()) {
-        [column addArrangedSubview:quorvane::makeHeading(section.title, 13)];
+    for (const auto& heading : quorvane::sectionHeading(section)) {
+        [column addArrangedSubview:quorvane::makeView(heading, _targets)];
     }
     for (const auto& row : section.rows) {
         NSView* view = [self viewForRow:row];
@@ -92,8 +88,8 @@ struct PageState {
           view.hidden = !quorvane::isShown(*shown);
         }];
     }
-    if (!section.footer.empty()) {
-        [column addArrangedSubview:quorvane::makeSecondaryLabel(section.footer, _width)];
+    for (const auto& footer : quorvane::sectionFooter(section, _width)) {
+        [column addArrangedSubview:quorvane::makeView(footer, _targets)];
     }
     return column;
 }
@@ -253,8 +249,7 @@ struct PageState {
     quorvane::stopRecording(_state->page);
 }
 
-// A list of one line per entry, read again on every refresh, each entry with a remove button
-// when it has a remove action.
+// A list of one line per entry, read again on every refresh.
 - (NSView*)list:(const quorvane::ListDisplay&)list extra:(NSView*)extra {
     NSStackView* lines = quorvane::makeColumn(2);
     NSStackView* column = quorvane::makeColumn(4, @[ quorvane::makeLabel(list.label), lines ]);
@@ -263,28 +258,9 @@ struct PageState {
     }
     NSMutableArray* lineTargets = [NSMutableArray array];
     const CGFloat width = _width;
-    const std::string empty = list.emptyText;
-    const auto read = list.lines;
+    const quorvane::ListDisplay shown = list;
     [_updates addObject:^{
-      quorvane::removeArrangedViews(lines, lineTargets);
-      const auto entries = read();
-      if (entries.empty()) {
-          [lines addArrangedSubview:quorvane::makeSecondaryLabel(empty, width)];
-      }
-      for (const auto& entry : entries) {
-          NSStackView* line = quorvane::makeRow(6, @[ quorvane::makeLabel(entry.title) ]);
-          if (entry.remove) {
-              const std::function<void()> remove = entry.remove;
-              [line addArrangedSubview:quorvane::makeButton("−", lineTargets, ^{
-                      // Removing the entry rebuilds these lines, which would free this button
-                      // and its target while this action still runs.
-                      quorvane::runSoon(^{
-                        remove();
-                      });
-                    })];
-          }
-          [lines addArrangedSubview:line];
-      }
+      quorvane::fillStack(lines, quorvane::listLinesView(shown, width), lineTargets);
     }];
     return column;
 }

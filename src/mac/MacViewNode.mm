@@ -35,9 +35,15 @@ NSTextField* shaped(NSTextField* label, const ViewNode& node) {
 
 NSButton* button(const ViewNode& node, NSMutableArray* keep) {
     const std::function<void()> action = node.action;
-    NSButton* made = makeButton(node.text, keep, ^{
+    void (^act)(void) = ^{
       callIfSet(action);
-    });
+    };
+    // Taking the button away inside its own action would free it and its target while the
+    // click still runs them.
+    void (^later)(void) = ^{
+      runSoon(act);
+    };
+    NSButton* made = makeButton(node.text, keep, node.actsLater ? later : act);
     made.bordered = node.isBordered;
     made.keyEquivalent = text(node.keyEquivalent);
     if (node.withCommand) {

@@ -122,6 +122,42 @@ ListDisplay listDisplay(const SettingsRow::ItemList& list) {
     return {list.label, list.emptyText, [&list] { return listLines(list); }};
 }
 
+ViewNode listLinesView(const ListDisplay& list, double width) {
+    ViewNode column = ViewNode::column(2);
+    const auto lines = list.lines ? list.lines() : std::vector<ListLine>{};
+    if (lines.empty()) {
+        column.children.push_back(ViewNode::secondaryLabel(list.emptyText, width));
+    }
+    for (const auto& line : lines) {
+        ViewNode shown = ViewNode::row(6, {ViewNode::label(line.title)});
+        if (line.remove) {
+            ViewNode remove = ViewNode::button("−", line.remove);
+            remove.actsLater = true;
+            shown.children.push_back(std::move(remove));
+        }
+        column.children.push_back(std::move(shown));
+    }
+    return column;
+}
+
+std::vector<ViewNode> sectionHeading(const SettingsSection& section) {
+    if (!section.iconFile.empty()) {
+        return {ViewNode::row(
+            6, {ViewNode::fileIcon(section.iconFile, 16), ViewNode::heading(section.title, 13)})};
+    }
+    if (!section.title.empty()) {
+        return {ViewNode::heading(section.title, 13)};
+    }
+    return {};
+}
+
+std::vector<ViewNode> sectionFooter(const SettingsSection& section, double width) {
+    if (section.footer.empty()) {
+        return {};
+    }
+    return {ViewNode::secondaryLabel(section.footer, width)};
+}
+
 std::optional<std::size_t> moveTarget(std::size_t index, std::size_t count, int offset) {
     const auto target = static_cast<std::ptrdiff_t>(index) + offset;
     if (index >= count || target < 0 || static_cast<std::size_t>(target) >= count) {

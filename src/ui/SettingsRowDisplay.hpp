@@ -9,6 +9,7 @@
 
 #include "ui/SettingsPage.hpp"
 #include "ui/SettingsRow.hpp"
+#include "ui/ViewNode.hpp"
 
 namespace quorvane {
 
@@ -72,6 +73,14 @@ struct ListDisplay {
 };
 ListDisplay listDisplay(const SettingsRow::AppList& list);
 ListDisplay listDisplay(const SettingsRow::ItemList& list);
+// The list's lines as they are now, `width` wide: each with a "−" button when it can be
+// removed, or the empty text.
+ViewNode listLinesView(const ListDisplay& list, double width);
+
+// What comes before a section's rows and after them: its title, with the icon when it has
+// one, and its footer; nothing for what it leaves empty.
+std::vector<ViewNode> sectionHeading(const SettingsSection& section);
+std::vector<ViewNode> sectionFooter(const SettingsSection& section, double width);
 
 // Where an editable list's entry goes when moved `offset` places; nothing past either end.
 std::optional<std::size_t> moveTarget(std::size_t index, std::size_t count, int offset);

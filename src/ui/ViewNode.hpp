@@ -49,6 +49,9 @@ struct ViewNode {
     bool isEnabled = true;
     // Borderless buttons read as menu items.
     bool isBordered = true;
+    // A button whose action takes the button itself away acts just after the click, once the
+    // click no longer needs it.
+    bool actsLater = false;
     // A key that presses a button: "\r" for Return; with ⌘ when `withCommand`.
     std::string keyEquivalent;
     bool withCommand = false;

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "support/ViewNodeSearch.hpp"
+
 namespace quorvane {
 namespace {
 
@@ -159,6 +161,28 @@ TEST(SettingsRowDisplayTest, ListLinesNameTheirEntryAndRemoveThatEntry) {
     items.remove = nullptr;
     EXPECT_FALSE(listLines(items)[0].remove) << "fixed lists show no remove buttons";
     EXPECT_TRUE(listLines(SettingsRow::ItemList{}).empty());
+
+    items.remove = [&](std::size_t index) { removedItems.push_back(index); };
+    const ViewNode drawn = listLinesView(display, 300);
+    const ViewNode* minus = findNode(drawn, ViewNode::Kind::button, "−");
+    ASSERT_NE(minus, nullptr);
+    EXPECT_TRUE(minus->actsLater) << "the button goes away with its line";
+    items.items = [] { return std::vector<std::string>{}; };
+    items.emptyText = "Nothing yet.";
+    EXPECT_EQ(shownTexts(listLinesView(listDisplay(items), 300)),
+              (std::vector<std::string>{"Nothing yet."}));
+}
+
+TEST(SettingsRowDisplayTest, ASectionIsHeadedByItsIconAndTitleAndEndsWithItsFooter) {
+    SettingsSection section{"Mail", {}, "", "/Applications/Mail.app"};
+    EXPECT_EQ(shownTexts(ViewNode::column(0, sectionHeading(section))),
+              (std::vector<std::string>{"/Applications/Mail.app", "Mail"}));
+    EXPECT_TRUE(sectionFooter(section, 300).empty());
+    section.iconFile.clear();
+    section.footer = "Applies to new windows.";
+    EXPECT_EQ(sectionHeading(section).at(0).kind, ViewNode::Kind::heading);
+    EXPECT_EQ(sectionFooter(section, 300).at(0).text, section.footer);
+    EXPECT_TRUE(sectionHeading(SettingsSection{}).empty());
 }
 
 TEST(SettingsRowDisplayTest, EntriesMoveOnlyWithinTheList) {
