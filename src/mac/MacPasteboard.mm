@@ -17,14 +17,6 @@ std::vector<std::uint8_t> toBytes(NSData* data) {
                  : std::vector<std::uint8_t>();
 }
 
-std::vector<std::string> toStrings(NSArray<NSString*>* strings) {
-    std::vector<std::string> result;
-    for (NSString* string in strings) {
-        result.push_back(utf8String(string));
-    }
-    return result;
-}
-
 NSPasteboard* general() { return NSPasteboard.generalPasteboard; }
 
 // The general pasteboard through NSPasteboard.
@@ -34,7 +26,7 @@ public:
 
     std::vector<std::string> types() override {
         @autoreleasepool {
-            return toStrings(general().types);
+            return utf8Strings(general().types);
         }
     }
 
@@ -44,7 +36,7 @@ public:
             // unconfirmed: check on a Mac first (NSPasteboardItem's `types` property is not in the
             // fact sheet).
             for (NSPasteboardItem* item in general().pasteboardItems) {
-                result.push_back(toStrings(item.types));
+                result.push_back(utf8Strings(item.types));
             }
             return result;
         }
