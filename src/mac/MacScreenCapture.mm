@@ -5,6 +5,7 @@
 #include "input/KeyCombo.hpp"
 #include "mac/CFRef.hpp"
 #include "mac/CancellableAction.hpp"
+#include "mac/MacFloatingWindow.hpp"
 #include "mac/MacFrameworks.h"
 #include "mac/MacStrings.hpp"
 #include "platform/AreaChoice.hpp"
@@ -434,14 +435,8 @@ public:
         };
         for (NSScreen* screen in NSScreen.screens) {
             QVAreaWindow* window =
-                [[QVAreaWindow alloc] initWithContentRect:screen.frame
-                                                styleMask:NSWindowStyleMaskBorderless
-                                                  backing:NSBackingStoreBuffered
-                                                    defer:NO];
-            window.opaque = NO;
-            window.backgroundColor = [NSColor clearColor];
-            window.level = NSScreenSaverWindowLevel;
-            window.releasedWhenClosed = NO;
+                makeFloatingWindow([QVAreaWindow class], screen.frame, NSWindowStyleMaskBorderless,
+                                   NSScreenSaverWindowLevel, [NSColor clearColor]);
             QVAreaView* view = [[QVAreaView alloc]
                 initWithFrame:NSMakeRect(0, 0, screen.frame.size.width, screen.frame.size.height)];
             view.finished = finish;
