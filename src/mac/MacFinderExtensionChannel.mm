@@ -3,12 +3,11 @@
 #include <cassert>
 #include <memory>
 
-#include "mac/CancellableHandler.hpp"
+#include "mac/CancellableAction.hpp"
 #include "mac/MacFrameworks.h"
 #include "mac/MacStrings.hpp"
 
-using FinderMessageHandler =
-    quorvane::CancellableHandler<quorvane::FinderExtensionChannel::Handler>;
+using FinderMessageHandler = quorvane::CancellableAction<const std::string&>;
 
 // The distributed centre's immediate delivery is only offered to selector observers.
 @interface QuorvaneFinderRequestRelay : NSObject
@@ -29,10 +28,8 @@ using FinderMessageHandler =
 
 - (void)deliver:(NSNotification*)notification {
     assert([NSThread isMainThread]);
-    const auto message = quorvane::utf8StringIfText(notification.object);
-    const auto running = _handler;
-    if (message && !running->cancelled) {
-        running->handler(*message);
+    if (const auto message = quorvane::utf8StringIfText(notification.object)) {
+        FinderMessageHandler::run(_handler, *message);
     }
 }
 
