@@ -107,11 +107,7 @@ public:
 
     RepeatingPowerEvents copyRepeatingPowerEvents() override {
         const auto copied = CFRef<CFDictionaryRef>::adopt(IOPMCopyRepeatingPowerEvents());
-        const auto events = fromPropertyList(copied.get());
-        if (!events || !events->dictionary()) {
-            return {};
-        }
-        return RepeatingPowerEvents::read(*events->dictionary());
+        return RepeatingPowerEvents::read(fromPropertyList(copied.get()));
     }
 };
 
