@@ -58,19 +58,10 @@ public:
 
     std::vector<std::string> filePaths() override {
         @autoreleasepool {
-            std::vector<std::string> paths;
-            NSArray* urls =
-                [general() readObjectsForClasses:@[ [NSURL class] ]
-                                         options:@{
-                                             NSPasteboardURLReadingFileURLsOnlyKey : @YES
-                                         }];
-            for (NSURL* url in urls) {
-                // unconfirmed: check on a Mac first (NSURL's `path` is not in the fact sheet).
-                if (NSString* path = url.path) {
-                    paths.push_back(utf8String(path));
-                }
-            }
-            return paths;
+            return pathsOf([general() readObjectsForClasses:@[ [NSURL class] ]
+                                                    options:@{
+                                                        NSPasteboardURLReadingFileURLsOnlyKey : @YES
+                                                    }]);
         }
     }
 

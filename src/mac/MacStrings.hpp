@@ -26,6 +26,8 @@ std::string utf8String(NSString* string);
 std::optional<std::string> utf8StringIfText(id object);
 // The strings of an array, in order; elements of other kinds are left out, and nil is empty.
 std::vector<std::string> utf8Strings(NSArray* array);
+// The paths of URLs, in order; a URL without one is left out.
+std::vector<std::string> pathsOf(NSArray<NSURL*>* urls);
 // What the error says for the user, or the fallback when there is no error to ask.
 std::string errorText(NSError* error, std::string_view fallback);
 

@@ -63,6 +63,17 @@ std::vector<std::string> utf8Strings(NSArray* array) {
     return strings;
 }
 
+std::vector<std::string> pathsOf(NSArray<NSURL*>* urls) {
+    std::vector<std::string> result;
+    for (NSURL* url in urls) {
+        // unconfirmed: check on a Mac first (NSURL's `path` is not in the fact sheet).
+        if (NSString* path = url.path) {
+            result.push_back(utf8String(path));
+        }
+    }
+    return result;
+}
+
 std::string errorText(NSError* error, std::string_view fallback) {
     // unconfirmed: check on a Mac first (NSError's localizedDescription is not in the fact
     // sheet).
