@@ -17,8 +17,8 @@ public:
     explicit RecordingProgress(ScreenCapture::FinishHandler handler)
         : handler_(std::move(handler)) {}
 
-    // The content to film was looked for: `found`, or not for `failure`. True when the stream
-    // is to be set up now; otherwise the answer has been given.
+    // The content to film was looked for, and `found` or not (`failure` says why). True when
+    // the stream is to be set up now; otherwise the answer has been given.
     bool begins(bool found, const std::string& failure);
     void stopRequested() { stopRequested_ = true; }
     // An empty error means the movie file is complete. Only the first call counts.
