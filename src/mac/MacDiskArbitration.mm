@@ -30,8 +30,8 @@ std::optional<DiskDescription> describeDisk(DADiskRef disk) {
     DiskDescription result;
     const char* bsdName = DADiskGetBSDName(disk);
     result.bsdName = bsdName ? bsdName : "";
-    NSString* name = description[(__bridge NSString*)kDADiskDescriptionVolumeNameKey];
-    result.volumeName = [name isKindOfClass:[NSString class]] ? utf8String(name) : "";
+    id name = description[(__bridge NSString*)kDADiskDescriptionVolumeNameKey];
+    result.volumeName = utf8StringIfText(name).value_or("");
     NSURL* path = description[(__bridge NSString*)kDADiskDescriptionVolumePathKey];
     result.volumePath = [path isKindOfClass:[NSURL class]] ? utf8String(path.path) : "";
     result.deviceInternal = flag(kDADiskDescriptionDeviceInternalKey, false);
