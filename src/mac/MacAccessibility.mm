@@ -8,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include "base/CallWithoutUnwinding.hpp"
 #include "base/Overloaded.hpp"
 #include "mac/CFRef.hpp"
 #include "mac/MacFrameworks.h"
@@ -185,12 +186,10 @@ private:
         }
         assert([NSThread isMainThread]);
         auto* self = static_cast<MacAccessibilityObserver*>(refcon);
-        try {
+        callWithoutUnwinding([&] {
             self->callback_(makeElement(CFRef<AXUIElementRef>::retain(element)),
                             utf8String(notification));
-        } catch (...) {
-            // Nothing may unwind into the accessibility framework.
-        }
+        });
     }
 
     CFRef<AXObserverRef> observer_;

@@ -58,11 +58,7 @@ public:
     }
 
     std::optional<int> predecessor() const override {
-        std::vector<std::string> arguments;
-        for (NSString* argument in [NSProcessInfo processInfo].arguments) {
-            arguments.push_back(utf8String(argument));
-        }
-        return replacedProcessID(arguments);
+        return replacedProcessID(utf8Strings([NSProcessInfo processInfo].arguments));
     }
 
     bool isRunning(int processID) const override {

@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "mac/CancellableHandler.hpp"
+#include "mac/CancellableAction.hpp"
 #include "mac/MacFrameworks.h"
 
 // Written from Apple's NSColorSampler reference, not the fact sheet: unconfirmed, check on a
@@ -18,20 +18,18 @@ namespace {
 class MacColorSampler final : public ColorSampler {
 public:
     Subscription sample(Handler handler) override {
-        auto shared = std::make_shared<CancellableHandler<Handler>>(std::move(handler));
+        using Sample = CancellableAction<std::optional<Color>>;
+        auto shared = std::make_shared<Sample>(std::move(handler));
         NSColorSampler* sampler = [[NSColorSampler alloc] init];
         [sampler showSamplerWithSelectionHandler:^(NSColor* selected) {
-          if (shared->cancelled) {
-              return;
-          }
+          // nil when the user cancelled (a message to nil answers nil) or the colour has no sRGB
+          // form.
           NSColor* srgb = [selected colorUsingColorSpace:[NSColorSpace sRGBColorSpace]];
-          if (srgb == nil) {
-              shared->handler(std::nullopt);
-              return;
-          }
-          shared->handler(ColorSampler::Color{static_cast<double>(srgb.redComponent),
-                                              static_cast<double>(srgb.greenComponent),
-                                              static_cast<double>(srgb.blueComponent)});
+          Sample::run(shared, srgb != nil
+                                  ? std::optional(Color{static_cast<double>(srgb.redComponent),
+                                                        static_cast<double>(srgb.greenComponent),
+                                                        static_cast<double>(srgb.blueComponent)})
+                                  : std::nullopt);
         }];
         return Subscription([shared] { shared->cancelled = true; });
     }

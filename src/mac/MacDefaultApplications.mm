@@ -14,14 +14,6 @@ namespace {
 
 std::optional<std::string> pathOf(NSURL* url) { return utf8StringIfText(url.path); }
 
-std::vector<std::string> pathsOf(NSArray<NSURL*>* urls) {
-    std::vector<std::string> paths;
-    for (NSURL* url in urls) {
-        paths.push_back(utf8String(url.path));
-    }
-    return paths;
-}
-
 // A URL of the scheme alone ("mailto:"), which is all the lookups look at.
 NSURL* schemeURL(const std::string& scheme) { return [NSURL URLWithString:text(scheme + ":")]; }
 

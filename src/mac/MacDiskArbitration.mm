@@ -3,6 +3,8 @@
 #include <cassert>
 #include <memory>
 
+#include "base/CallIfSet.hpp"
+#include "base/CallWithoutUnwinding.hpp"
 #include "mac/CFRef.hpp"
 #include "mac/MacFrameworks.h"
 #include "mac/MacStrings.hpp"
@@ -28,8 +30,8 @@ std::optional<DiskDescription> describeDisk(DADiskRef disk) {
     DiskDescription result;
     const char* bsdName = DADiskGetBSDName(disk);
     result.bsdName = bsdName ? bsdName : "";
-    NSString* name = description[(__bridge NSString*)kDADiskDescriptionVolumeNameKey];
-    result.volumeName = [name isKindOfClass:[NSString class]] ? utf8String(name) : "";
+    id name = description[(__bridge NSString*)kDADiskDescriptionVolumeNameKey];
+    result.volumeName = utf8StringIfText(name).value_or("");
     NSURL* path = description[(__bridge NSString*)kDADiskDescriptionVolumePathKey];
     result.volumePath = [path isKindOfClass:[NSURL class]] ? utf8String(path.path) : "";
     result.deviceInternal = flag(kDADiskDescriptionDeviceInternalKey, false);
@@ -46,13 +48,8 @@ void answered(DADiskRef, DADissenterRef dissenter, void* context) {
     assert([NSThread isMainThread]);
     // The context is the heap copy made for this one request; it is freed here, once.
     const std::unique_ptr<SharedCompletion> completion(static_cast<SharedCompletion*>(context));
-    if (*completion && **completion) {
-        try {
-            (**completion)(dissenter ? DADissenterGetStatus(dissenter) : 0);
-        } catch (...) {
-            // Nothing may unwind into Disk Arbitration.
-        }
-    }
+    callWithoutUnwinding(
+        [&] { callIfSet(**completion, dissenter ? DADissenterGetStatus(dissenter) : 0); });
 }
 
 // None without a session, or when the name is not a disk's.

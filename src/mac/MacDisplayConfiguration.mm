@@ -38,12 +38,9 @@ std::string displayIdentifier(NSScreen* screen) {
     NSNumber* number = value;
     const auto display = static_cast<CGDirectDisplayID>(number.unsignedIntValue);
     const auto uuid = CFRef<CFUUIDRef>::adopt(CGDisplayCreateUUIDFromDisplayID(display));
-    if (!uuid) {
-        // A display ColorSync does not know: its session-long number is better than nothing.
-        return "display-" + std::to_string(display);
-    }
-    const auto text =
-        CFRef<CFStringRef>::adopt(CFUUIDCreateString(kCFAllocatorDefault, uuid.get()));
+    const auto text = CFRef<CFStringRef>::adopt(
+        uuid ? CFUUIDCreateString(kCFAllocatorDefault, uuid.get()) : nullptr);
+    // A display ColorSync does not know: its session-long number is better than nothing.
     return text ? utf8String(text.get()) : "display-" + std::to_string(display);
 }
 

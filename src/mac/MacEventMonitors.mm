@@ -3,6 +3,7 @@
 #include <cassert>
 #include <memory>
 
+#include "mac/CancellableAction.hpp"
 #include "mac/CancellableHandler.hpp"
 #include "mac/MacEvent.hpp"
 #include "mac/MacFrameworks.h"
@@ -16,19 +17,15 @@ namespace {
 class MacEventMonitors final : public EventMonitors {
 public:
     [[nodiscard]] Subscription addGlobal(std::uint64_t mask, GlobalHandler handler) override {
-        auto monitor = std::make_shared<CancellableHandler<GlobalHandler>>(std::move(handler));
-        id token =
-            [NSEvent addGlobalMonitorForEventsMatchingMask:static_cast<NSEventMask>(mask)
-                                                   handler:^(NSEvent* event) {
-                                                     assert([NSThread isMainThread]);
-                                                     const auto running = monitor;
-                                                     if (running->cancelled) {
-                                                         return;
-                                                     }
-                                                     const MacEvent wrapped =
-                                                         MacEvent::borrow(event.CGEvent, event);
-                                                     running->handler(wrapped);
-                                                   }];
+        using Global = CancellableAction<const Event&>;
+        auto monitor = std::make_shared<Global>(std::move(handler));
+        id token = [NSEvent
+            addGlobalMonitorForEventsMatchingMask:static_cast<NSEventMask>(mask)
+                                          handler:^(NSEvent* event) {
+                                            assert([NSThread isMainThread]);
+                                            Global::run(monitor,
+                                                        MacEvent::borrow(event.CGEvent, event));
+                                          }];
         return monitorSubscription(monitor, token);
     }
 

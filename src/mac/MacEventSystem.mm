@@ -2,6 +2,7 @@
 
 #include <cassert>
 
+#include "base/CallWithoutUnwinding.hpp"
 #include "mac/CFRef.hpp"
 #include "mac/MacEvent.hpp"
 #include "mac/MacFrameworks.h"
@@ -64,14 +65,11 @@ private:
         assert([NSThread isMainThread]);
         auto* tap = static_cast<MacEventTap*>(userInfo);
         MacEvent wrapped = MacEvent::borrow(event);
-        try {
-            // Returning the same event, unretained, passes it with any change made to it;
-            // NULL deletes it.
-            return tap->callback_(static_cast<EventType>(type), wrapped) ? event : nullptr;
-        } catch (...) {
-            // Nothing may unwind into the system; a failing handler lets the event be.
-            return event;
-        }
+        bool keep = true;  // a failing handler lets the event be
+        callWithoutUnwinding([&] { keep = tap->callback_(static_cast<EventType>(type), wrapped); });
+        // Returning the same event, unretained, passes it with any change made to it; NULL
+        // deletes it.
+        return keep ? event : nullptr;
     }
 
     EventSystem::TapCallback callback_;

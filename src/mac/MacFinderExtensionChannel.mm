@@ -1,42 +1,10 @@
 #include "mac/MacPorts.hpp"
 
-#include <cassert>
-#include <memory>
+#include <utility>
 
-#include "mac/CancellableHandler.hpp"
 #include "mac/MacFrameworks.h"
+#include "mac/MacRelay.hpp"
 #include "mac/MacStrings.hpp"
-
-using FinderMessageHandler =
-    quorvane::CancellableHandler<quorvane::FinderExtensionChannel::Handler>;
-
-// The distributed centre's immediate delivery is only offered to selector observers.
-@interface QuorvaneFinderRequestRelay : NSObject
-- (instancetype)initWithHandler:(std::shared_ptr<FinderMessageHandler>)handler;
-- (void)deliver:(NSNotification*)notification;
-@end
-
-@implementation QuorvaneFinderRequestRelay {
-    std::shared_ptr<FinderMessageHandler> _handler;
-}
-
-- (instancetype)initWithHandler:(std::shared_ptr<FinderMessageHandler>)handler {
-    if ((self = [super init])) {
-        _handler = std::move(handler);
-    }
-    return self;
-}
-
-- (void)deliver:(NSNotification*)notification {
-    assert([NSThread isMainThread]);
-    const auto message = quorvane::utf8StringIfText(notification.object);
-    const auto running = _handler;
-    if (message && !running->cancelled) {
-        running->handler(*message);
-    }
-}
-
-@end
 
 namespace quorvane {
 
@@ -48,22 +16,14 @@ class MacFinderExtensionChannel final : public FinderExtensionChannel {
 public:
     Subscription observe(Handler handler) override {
         @autoreleasepool {
-            auto observer = std::make_shared<FinderMessageHandler>(std::move(handler));
-            QuorvaneFinderRequestRelay* relay =
-                [[QuorvaneFinderRequestRelay alloc] initWithHandler:observer];
-            // unconfirmed: check on a Mac first (-addObserver:selector:name:object:
-            // suspensionBehavior: is written from Apple's reference). Quorvane is an accessory app,
-            // rarely active; without immediate delivery a menu choice would wait until it is.
-            [[NSDistributedNotificationCenter defaultCenter]
-                       addObserver:relay
-                          selector:@selector(deliver:)
-                              name:makeNSString(kNotificationName)
-                            object:nil
-                suspensionBehavior:NSNotificationSuspensionBehaviorDeliverImmediately];
-            return Subscription([observer, relay] {
-                observer->cancelled = true;
-                [[NSDistributedNotificationCenter defaultCenter] removeObserver:relay];
-            });
+            // Without immediate delivery a menu choice would wait until Quorvane is next active.
+            return observeDistributedAtOnce(
+                makeNSString(kNotificationName),
+                [handler = std::move(handler)](NSNotification* notification) {
+                    if (const auto message = utf8StringIfText(notification.object)) {
+                        handler(*message);
+                    }
+                });
         }
     }
 };

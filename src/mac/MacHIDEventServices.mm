@@ -48,12 +48,9 @@ public:
         if (found.service == 0) {
             return std::nullopt;
         }
-        // A Create: released by the holder.
+        // A Create: released by the holder. No such property is NULL, which converts to nothing.
         const auto value = CFRef<CFTypeRef>::adopt(
             IORegistryEntryCreateCFProperty(found.service, name.get(), kCFAllocatorDefault, 0));
-        if (!value) {
-            return std::nullopt;
-        }
         return fromPropertyList(value.get());
     }
 };

@@ -2,6 +2,8 @@
 
 #include <cassert>
 
+#include "base/CallIfSet.hpp"
+#include "base/CallWithoutUnwinding.hpp"
 #include "mac/MacFrameworks.h"
 
 namespace quorvane {
@@ -17,14 +19,9 @@ OSStatus hotKeyPressed(EventHandlerCallRef, EventRef event, void* userData) {
         return static_cast<OSStatus>(eventNotHandledErr);
     }
     const auto& handler = *static_cast<HotKeySystem::PressedHandler*>(userData);
-    try {
-        if (handler) {
-            handler(hotKeyID.id);
-        }
-    } catch (...) {
-        // Nothing may unwind into Carbon; the press is consumed all the same.
-    }
-    // Consumed: the key press goes to no other handler or application.
+    callWithoutUnwinding([&] { callIfSet(handler, hotKeyID.id); });
+    // Consumed, even when the handler failed: the key press goes to no other handler or
+    // application.
     return static_cast<OSStatus>(noErr);
 }
 

@@ -16,10 +16,10 @@ namespace {
 constexpr UInt16 kKeyCodeCount = 128;
 constexpr UniCharCount kMaxLength = 8;
 
-// A property that is a CFString, which TISGetInputSourceProperty hands out under the Get rule.
+// A property that is a CFString, which TISGetInputSourceProperty hands out under the Get rule;
+// empty when the source has none.
 std::string stringProperty(TISInputSourceRef source, CFStringRef key) {
-    const auto value = static_cast<CFStringRef>(TISGetInputSourceProperty(source, key));
-    return value ? utf8String(value) : std::string();
+    return utf8String(static_cast<CFStringRef>(TISGetInputSourceProperty(source, key)));
 }
 
 // The enabled keyboard input sources the user can select: layouts and input modes, not the

@@ -17,14 +17,6 @@ std::vector<std::uint8_t> toBytes(NSData* data) {
                  : std::vector<std::uint8_t>();
 }
 
-std::vector<std::string> toStrings(NSArray<NSString*>* strings) {
-    std::vector<std::string> result;
-    for (NSString* string in strings) {
-        result.push_back(utf8String(string));
-    }
-    return result;
-}
-
 NSPasteboard* general() { return NSPasteboard.generalPasteboard; }
 
 // The general pasteboard through NSPasteboard.
@@ -34,7 +26,7 @@ public:
 
     std::vector<std::string> types() override {
         @autoreleasepool {
-            return toStrings(general().types);
+            return utf8Strings(general().types);
         }
     }
 
@@ -44,7 +36,7 @@ public:
             // unconfirmed: check on a Mac first (NSPasteboardItem's `types` property is not in the
             // fact sheet).
             for (NSPasteboardItem* item in general().pasteboardItems) {
-                result.push_back(toStrings(item.types));
+                result.push_back(utf8Strings(item.types));
             }
             return result;
         }
@@ -66,19 +58,10 @@ public:
 
     std::vector<std::string> filePaths() override {
         @autoreleasepool {
-            std::vector<std::string> paths;
-            NSArray* urls =
-                [general() readObjectsForClasses:@[ [NSURL class] ]
-                                         options:@{
-                                             NSPasteboardURLReadingFileURLsOnlyKey : @YES
-                                         }];
-            for (NSURL* url in urls) {
-                // unconfirmed: check on a Mac first (NSURL's `path` is not in the fact sheet).
-                if (NSString* path = url.path) {
-                    paths.push_back(utf8String(path));
-                }
-            }
-            return paths;
+            return pathsOf([general() readObjectsForClasses:@[ [NSURL class] ]
+                                                    options:@{
+                                                        NSPasteboardURLReadingFileURLsOnlyKey : @YES
+                                                    }]);
         }
     }
 

@@ -5,6 +5,7 @@
 #include <cassert>
 #include <memory>
 
+#include "base/CallWithoutUnwinding.hpp"
 #include "mac/MacFrameworks.h"
 #include "mac/CFRef.hpp"
 #include "mac/MacPropertyList.hpp"
@@ -40,11 +41,7 @@ void systemPowerMessage(void* refcon, io_service_t, uint32_t messageType, void* 
         const auto notificationID = reinterpret_cast<intptr_t>(argument);
         allow = [port, notificationID] { IOAllowPowerChange(port, notificationID); };
     }
-    try {
-        registration->handler(messageType, std::move(allow));
-    } catch (...) {
-        // Nothing may unwind into IOKit.
-    }
+    callWithoutUnwinding(registration->handler, messageType, std::move(allow));
 }
 
 // IOKit's power-management assertions, sleep and wake messages and repeating power events,
@@ -110,11 +107,7 @@ public:
 
     RepeatingPowerEvents copyRepeatingPowerEvents() override {
         const auto copied = CFRef<CFDictionaryRef>::adopt(IOPMCopyRepeatingPowerEvents());
-        const auto events = fromPropertyList(copied.get());
-        if (!events || !events->dictionary()) {
-            return {};
-        }
-        return RepeatingPowerEvents::read(*events->dictionary());
+        return RepeatingPowerEvents::read(fromPropertyList(copied.get()));
     }
 };
 

@@ -3,6 +3,7 @@
 #include <cassert>
 #include <memory>
 
+#include "base/CallWithoutUnwinding.hpp"
 #include "mac/CFRef.hpp"
 #include "mac/MacFrameworks.h"
 #include "mac/MacPropertyList.hpp"
@@ -24,11 +25,7 @@ static_assert(PowerSourceDescription::kNameKey == kIOPSNameKey &&
 
 void powerSourcesChanged(void* context) {
     assert([NSThread isMainThread]);
-    try {
-        (*static_cast<std::function<void()>*>(context))();
-    } catch (...) {
-        // Nothing may unwind into IOKit.
-    }
+    callWithoutUnwinding(*static_cast<std::function<void()>*>(context));
 }
 
 // IOKit's power-source API.

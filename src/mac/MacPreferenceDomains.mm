@@ -65,22 +65,14 @@ public:
 
     std::vector<std::string> copyKeyList(const std::string& applicationID,
                                          PreferenceHost host) override {
-        std::vector<std::string> keys;
         const auto domain = domainName(applicationID);
         if (!domain) {
-            return keys;
+            return {};
         }
+        // No list (NULL) bridges to nil, which holds no keys.
         const auto list = CFRef<CFArrayRef>::adopt(
             CFPreferencesCopyKeyList(domain.get(), kCFPreferencesCurrentUser, hostName(host)));
-        if (!list) {
-            return keys;
-        }
-        for (const void* key : arrayValues(list.get())) {
-            if (key != nullptr && CFGetTypeID(key) == CFStringGetTypeID()) {
-                keys.push_back(utf8String(static_cast<CFStringRef>(key)));
-            }
-        }
-        return keys;
+        return utf8Strings((__bridge NSArray*)list.get());
     }
 };
 

@@ -5,9 +5,11 @@
 #include "input/KeyCombo.hpp"
 #include "mac/CFRef.hpp"
 #include "mac/CancellableAction.hpp"
+#include "mac/MacFloatingWindow.hpp"
 #include "mac/MacFrameworks.h"
 #include "mac/MacStrings.hpp"
 #include "platform/AreaChoice.hpp"
+#include "platform/RecordingProgress.hpp"
 #include "platform/ShareableContent.hpp"
 
 // Written from Apple's ScreenCaptureKit reference; none of it is in the fact sheet, so every
@@ -26,7 +28,6 @@ using quorvane::CancellableAction;
 using quorvane::Rect;
 using quorvane::ScreenCapture;
 using quorvane::Thumbnail;
-using FinishCallback = CancellableAction<const std::string&>;
 
 Rect rectFrom(CGRect rect) {
     return {rect.origin.x, rect.origin.y, rect.size.width, rect.size.height};
@@ -122,22 +123,20 @@ ScreenCapture::Content convert(SCShareableContent* content) {
 
 __attribute__((availability(macos, introduced = 15.0)))
 @interface QVRecordingSession : NSObject<SCStreamDelegate, SCRecordingOutputDelegate, QVStoppable>
-- (instancetype)initWithHandler:(std::shared_ptr<FinishCallback>)handler;
+- (instancetype)initWithHandler:(ScreenCapture::FinishHandler)handler;
 - (void)start:(const ScreenCapture::RecordingRequest&)request;
 @end
 
 @implementation QVRecordingSession {
-    std::shared_ptr<FinishCallback> _handler;
+    quorvane::RecordingProgress _progress;
     SCStream* _stream;
     SCRecordingOutput* _output;
     QVRecordingSession* _keepAlive;
-    BOOL _stopRequested;
-    BOOL _reported;
 }
 
-- (instancetype)initWithHandler:(std::shared_ptr<FinishCallback>)handler {
+- (instancetype)initWithHandler:(ScreenCapture::FinishHandler)handler {
     if ((self = [super init])) {
-        _handler = std::move(handler);
+        _progress = quorvane::RecordingProgress(std::move(handler));
         _keepAlive = self;
     }
     return self;
@@ -155,12 +154,8 @@ __attribute__((availability(macos, introduced = 15.0)))
 - (void)begin:(const ScreenCapture::RecordingRequest&)request
        filter:(SCContentFilter*)filter
       failure:(const std::string&)failure {
-    if (_stopRequested) {
-        [self report:"stopped before it began"];
-        return;
-    }
-    if (filter == nil) {
-        [self report:failure];
+    if (!_progress.begins(filter != nil, failure)) {
+        _keepAlive = nil;
         return;
     }
     SCStreamConfiguration* configuration =
@@ -187,7 +182,7 @@ __attribute__((availability(macos, introduced = 15.0)))
 }
 
 - (void)stop {
-    _stopRequested = YES;
+    _progress.stopRequested();
     [_stream stopCaptureWithCompletionHandler:^(NSError* stopError) {
       if (stopError != nil) {
           [self reportLater:stopError];
@@ -196,16 +191,12 @@ __attribute__((availability(macos, introduced = 15.0)))
 }
 
 - (void)forget {
-    _handler->cancelled = true;
+    _progress.forget();
 }
 
 // Once, on the main thread; an empty text means the movie file is complete.
 - (void)report:(const std::string&)error {
-    if (_reported) {
-        return;
-    }
-    _reported = YES;
-    FinishCallback::run(_handler, error);
+    _progress.report(error);
     _keepAlive = nil;
 }
 
@@ -389,8 +380,8 @@ public:
                                                              FinishHandler finished,
                                                              std::string& error) override {
         if (@available(macOS 15.0, *)) {
-            auto shared = std::make_shared<FinishCallback>(std::move(finished));
-            QVRecordingSession* session = [[QVRecordingSession alloc] initWithHandler:shared];
+            QVRecordingSession* session =
+                [[QVRecordingSession alloc] initWithHandler:std::move(finished)];
             [session start:request];
             return std::make_unique<MacRecording>(session);
         }
@@ -434,14 +425,8 @@ public:
         };
         for (NSScreen* screen in NSScreen.screens) {
             QVAreaWindow* window =
-                [[QVAreaWindow alloc] initWithContentRect:screen.frame
-                                                styleMask:NSWindowStyleMaskBorderless
-                                                  backing:NSBackingStoreBuffered
-                                                    defer:NO];
-            window.opaque = NO;
-            window.backgroundColor = [NSColor clearColor];
-            window.level = NSScreenSaverWindowLevel;
-            window.releasedWhenClosed = NO;
+                makeFloatingWindow([QVAreaWindow class], screen.frame, NSWindowStyleMaskBorderless,
+                                   NSScreenSaverWindowLevel, [NSColor clearColor]);
             QVAreaView* view = [[QVAreaView alloc]
                 initWithFrame:NSMakeRect(0, 0, screen.frame.size.width, screen.frame.size.height)];
             view.finished = finish;

@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "mac/CFRef.hpp"
 #include "mac/MacFrameworks.h"
@@ -23,6 +24,10 @@ std::string utf8String(CFStringRef string);
 std::string utf8String(NSString* string);
 // Nothing unless the object is a string; nil is none.
 std::optional<std::string> utf8StringIfText(id object);
+// The strings of an array, in order; elements of other kinds are left out, and nil is empty.
+std::vector<std::string> utf8Strings(NSArray* array);
+// The paths of URLs, in order; a URL without one is left out.
+std::vector<std::string> pathsOf(NSArray<NSURL*>* urls);
 // What the error says for the user, or the fallback when there is no error to ask.
 std::string errorText(NSError* error, std::string_view fallback);
 

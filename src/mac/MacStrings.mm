@@ -1,6 +1,7 @@
 #include "mac/MacStrings.hpp"
 
 #include <cstddef>
+#include <utility>
 
 namespace quorvane {
 
@@ -50,6 +51,27 @@ std::optional<std::string> utf8StringIfText(id object) {
         return std::nullopt;
     }
     return utf8String(static_cast<NSString*>(object));
+}
+
+std::vector<std::string> utf8Strings(NSArray* array) {
+    std::vector<std::string> strings;
+    for (id element in array) {
+        if (auto string = utf8StringIfText(element)) {
+            strings.push_back(std::move(*string));
+        }
+    }
+    return strings;
+}
+
+std::vector<std::string> pathsOf(NSArray<NSURL*>* urls) {
+    std::vector<std::string> result;
+    for (NSURL* url in urls) {
+        // unconfirmed: check on a Mac first (NSURL's `path` is not in the fact sheet).
+        if (NSString* path = url.path) {
+            result.push_back(utf8String(path));
+        }
+    }
+    return result;
 }
 
 std::string errorText(NSError* error, std::string_view fallback) {

@@ -26,8 +26,7 @@ void readText(CGImageRef image, bool accurate, bool languageCorrection,
                                                                                options:@{}];
         NSError* error = nil;
         if (![reader performRequests:@[ request ] error:&error]) {
-            failure = error != nil ? utf8String(error.localizedDescription)
-                                   : std::string("no reason given");
+            failure = errorText(error, "no reason given");
             return;
         }
         for (VNRecognizedTextObservation* observation in request.results) {

@@ -19,16 +19,6 @@ namespace quorvane {
 
 namespace {
 
-std::vector<std::string> strings(NSArray* symbols) {
-    std::vector<std::string> result;
-    for (id symbol in symbols) {
-        if ([symbol isKindOfClass:[NSString class]]) {
-            result.push_back(utf8String(static_cast<NSString*>(symbol)));
-        }
-    }
-    return result;
-}
-
 NSDateFormatter* currentFormatter() {
     NSDateFormatter* formatter = [[NSDateFormatter alloc] init];
     formatter.locale = [NSLocale autoupdatingCurrentLocale];
@@ -66,11 +56,11 @@ public:
     }
 
     std::vector<std::string> monthSymbols() override {
-        return strings(currentFormatter().standaloneMonthSymbols);
+        return utf8Strings(currentFormatter().standaloneMonthSymbols);
     }
 
     std::vector<std::string> weekdaySymbols() override {
-        return strings(currentFormatter().shortStandaloneWeekdaySymbols);
+        return utf8Strings(currentFormatter().shortStandaloneWeekdaySymbols);
     }
 
     Subscription observeChanges(std::function<void()> handler) override {

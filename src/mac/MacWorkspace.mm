@@ -1,12 +1,12 @@
 #include "mac/MacPorts.hpp"
 
-#include <cassert>
 #include <memory>
 #include <string>
 
 #include "mac/CancellableAction.hpp"
 #include "mac/MacFrameworks.h"
 #include "mac/MacObservation.hpp"
+#include "mac/MacRelay.hpp"
 #include "mac/MacStrings.hpp"
 
 namespace quorvane {
@@ -53,48 +53,6 @@ NSNotificationName notificationName(WorkspaceNotification notification) {
     }
     return nil;
 }
-
-}  // namespace
-
-}  // namespace quorvane
-
-// Key-value observation and the distributed centre's choice of suspension both need an object
-// that answers a message; this one only relays to its handler, until the handler is cancelled.
-@interface QuorvaneRelay : NSObject
-- (instancetype)initWithHandler:(std::shared_ptr<quorvane::CancellableAction<>>)handler;
-- (void)deliver:(NSNotification*)notification;
-@end
-
-@implementation QuorvaneRelay {
-    std::shared_ptr<quorvane::CancellableAction<>> _handler;
-}
-
-- (instancetype)initWithHandler:(std::shared_ptr<quorvane::CancellableAction<>>)handler {
-    if ((self = [super init])) {
-        _handler = std::move(handler);
-    }
-    return self;
-}
-
-- (void)deliver:(NSNotification*)notification {
-    // unconfirmed: check on a Mac first that the workspace sends its key-value changes on the
-    // main thread; distributed posts arrive on the main thread's run loop.
-    assert([NSThread isMainThread]);
-    quorvane::CancellableAction<>::run(_handler);
-}
-
-- (void)observeValueForKeyPath:(NSString*)keyPath
-                      ofObject:(id)object
-                        change:(NSDictionary<NSKeyValueChangeKey, id>*)change
-                       context:(void*)context {
-    [self deliver:nil];
-}
-
-@end
-
-namespace quorvane {
-
-namespace {
 
 // The shared NSWorkspace and the running applications it knows.
 class MacWorkspace final : public Workspace {
@@ -218,31 +176,17 @@ public:
             if (!notification) {
                 return {};
             }
-            auto observer = std::make_shared<CancellableAction<>>(std::move(handler));
-            QuorvaneRelay* relay = [[QuorvaneRelay alloc] initWithHandler:observer];
-            // An accessory app is almost never active, and an inactive app's distributed
-            // notifications are held back and coalesced by default; the ones observed here (a
-            // screen unlocked) matter when they happen, so they are delivered at once.
-            // unconfirmed: check on a Mac first (NSDistributedNotificationCenter's
-            // -addObserver:selector:name:object:suspensionBehavior: is not in the fact sheet; it
-            // was written from Apple's reference). Posts arrive on the main thread's run loop.
-            [[NSDistributedNotificationCenter defaultCenter]
-                       addObserver:relay
-                          selector:@selector(deliver:)
-                              name:notification
-                            object:nil
-                suspensionBehavior:NSNotificationSuspensionBehaviorDeliverImmediately];
-            // The block keeps the relay alive until it is removed.
-            return Subscription([observer, relay] {
-                observer->cancelled = true;
-                [[NSDistributedNotificationCenter defaultCenter] removeObserver:relay];
-            });
+            // The ones observed here (a screen unlocked) matter when they happen, not when
+            // Quorvane is next active.
+            return observeDistributedAtOnce(
+                notification, [handler = std::move(handler)](NSNotification*) { handler(); });
         }
     }
 
     [[nodiscard]] Subscription observeRunningApplications(std::function<void()> handler) override {
         @autoreleasepool {
-            auto observer = std::make_shared<CancellableAction<>>(std::move(handler));
+            auto observer = std::make_shared<CancellableAction<NSNotification*>>(
+                [handler = std::move(handler)](NSNotification*) { handler(); });
             QuorvaneRelay* relay = [[QuorvaneRelay alloc] initWithHandler:observer];
             // unconfirmed: check on a Mac first (key-value observation of runningApplications and
             // -removeObserver:forKeyPath: are not in the fact sheet).

@@ -33,4 +33,9 @@ RepeatingPowerEvents RepeatingPowerEvents::read(const PreferenceValue::Dictionar
     return {event(events, kPowerOnKey), event(events, kPowerOffKey)};
 }
 
+RepeatingPowerEvents RepeatingPowerEvents::read(const std::optional<PreferenceValue>& events) {
+    const auto* dictionary = events ? events->dictionary() : nullptr;
+    return dictionary ? read(*dictionary) : RepeatingPowerEvents{};
+}
+
 }  // namespace quorvane

@@ -32,6 +32,8 @@ struct RepeatingPowerEvents {
 
     // IOPMCopyRepeatingPowerEvents' dictionary; an event lacking any of its three keys is none.
     static RepeatingPowerEvents read(const PreferenceValue::Dictionary& events);
+    // The same for the copied value as it converted; none unless it is a dictionary.
+    static RepeatingPowerEvents read(const std::optional<PreferenceValue>& events);
     friend bool operator==(const RepeatingPowerEvents&, const RepeatingPowerEvents&) = default;
 };
 

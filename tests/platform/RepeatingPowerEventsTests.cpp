@@ -17,6 +17,9 @@ TEST(RepeatingPowerEvents, ReadsEachEventOnlyWhenItIsWhole) {
     EXPECT_EQ(events.powerOff, std::nullopt);
 
     EXPECT_EQ(RepeatingPowerEvents::read({{"RepeatingPowerOn", "wake"}}), RepeatingPowerEvents{});
+    EXPECT_EQ(RepeatingPowerEvents::read(std::optional(PreferenceValue("no schedule"))),
+              RepeatingPowerEvents{});
+    EXPECT_EQ(RepeatingPowerEvents::read(std::optional<PreferenceValue>()), RepeatingPowerEvents{});
 }
 
 }  // namespace

@@ -37,9 +37,7 @@ quorvane::FinderMenu::Click click() {
         click.target = quorvane::utf8String(target.path);
         click.targetIsFolder = isFolder.boolValue;
     }
-    for (NSURL* url in [controller selectedItemURLs]) {
-        click.selected.push_back(quorvane::utf8String(url.path));
-    }
+    click.selected = quorvane::pathsOf([controller selectedItemURLs]);
     return click;
 }
 
