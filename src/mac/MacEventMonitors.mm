@@ -4,7 +4,6 @@
 #include <memory>
 
 #include "mac/CancellableAction.hpp"
-#include "mac/CancellableHandler.hpp"
 #include "mac/MacEvent.hpp"
 #include "mac/MacFrameworks.h"
 #include "mac/MacMonitorSubscription.hpp"
@@ -30,21 +29,23 @@ public:
     }
 
     [[nodiscard]] Subscription addLocal(std::uint64_t mask, LocalHandler handler) override {
-        auto monitor = std::make_shared<CancellableHandler<LocalHandler>>(std::move(handler));
-        id token =
-            [NSEvent addLocalMonitorForEventsMatchingMask:static_cast<NSEventMask>(mask)
-                                                  handler:^NSEvent*(NSEvent* event) {
-                                                    assert([NSThread isMainThread]);
-                                                    // The handler may remove this very monitor.
-                                                    const auto running = monitor;
-                                                    if (running->cancelled) {
-                                                        return event;
-                                                    }
-                                                    const MacEvent wrapped =
-                                                        MacEvent::borrow(event.CGEvent, event);
-                                                    // nil stops the event: it is never dispatched.
-                                                    return running->handler(wrapped) ? event : nil;
-                                                  }];
+        // The action tells through its second argument whether the event goes on.
+        using Local = CancellableAction<const Event&, bool&>;
+        auto monitor = std::make_shared<Local>(
+            [handler = std::move(handler)](const Event& event, bool& passes) {
+                passes = handler(event);
+            });
+        id token = [NSEvent
+            addLocalMonitorForEventsMatchingMask:static_cast<NSEventMask>(mask)
+                                         handler:^NSEvent*(NSEvent* event) {
+                                           assert([NSThread isMainThread]);
+                                           bool passes = true;
+                                           Local::run(monitor,
+                                                      MacEvent::borrow(event.CGEvent, event),
+                                                      passes);
+                                           // nil stops the event: it is never dispatched.
+                                           return passes ? event : nil;
+                                         }];
         return monitorSubscription(monitor, token);
     }
 };
