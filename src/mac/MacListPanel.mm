@@ -1,7 +1,3 @@
-#if !__has_feature(objc_arc)
-#error "Compile with -fobjc-arc"
-#endif
-
 #include "mac/MacPorts.hpp"
 
 #include <memory>
