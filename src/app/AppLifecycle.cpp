@@ -64,8 +64,8 @@ void AppLifecycle::start() {
     firstRun_ = std::make_unique<FirstRunModel>(*registry_, *cardActions_, platform_.preferences);
     firstRun_->onFinish = [this] { shell_.windows.closeFirstRun(); };
 
-    menuPanel_ = std::make_unique<MenuBarPanel>(platform_.menuBar, platform_.scheduler,
-                                                PanelContent{menu_.get()});
+    menuPanel_ = std::make_unique<MenuBarPanel>(platform_.menuBar, platform_.eventMonitors,
+                                                platform_.scheduler, PanelContent{menu_.get()});
     menuPanel_->statusItem().setImage(kMenuImage, kMenuDescription);
 
     if (FirstRunModel::isNeeded(platform_.preferences)) {

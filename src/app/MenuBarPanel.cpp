@@ -4,9 +4,10 @@
 
 namespace quorvane {
 
-MenuBarPanel::MenuBarPanel(MenuBar& menuBar, Scheduler& scheduler, const PanelContent& content,
-                           double length)
+MenuBarPanel::MenuBarPanel(MenuBar& menuBar, EventMonitors& eventMonitors, Scheduler& scheduler,
+                           const PanelContent& content, double length)
     : menuBar_(menuBar),
+      eventMonitors_(eventMonitors),
       scheduler_(scheduler),
       statusItem_(menuBar.makeStatusItem(length)),
       popover_(menuBar.makePopover(content, MenuBar::PopoverBehavior::transient)) {
@@ -44,7 +45,9 @@ void MenuBarPanel::toggle() {
     // An accessory app is not active on its own; without this the popover gets no keys.
     menuBar_.activateApplication();
     popover_->show(*statusItem_);
-    outsideClickMonitor_ = menuBar_.addGlobalMonitor(kOutsideClickMask, [this] { close(); });
+    // A global monitor sees clicks in other applications only, which is what "elsewhere" is.
+    outsideClickMonitor_ =
+        eventMonitors_.addGlobal(kOutsideClickMask, [this](const Event&) { close(); });
 }
 
 void MenuBarPanel::close() {

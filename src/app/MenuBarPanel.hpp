@@ -6,6 +6,7 @@
 #include <optional>
 
 #include "base/Subscription.hpp"
+#include "platform/EventMonitors.hpp"
 #include "platform/MenuBar.hpp"
 #include "platform/Scheduler.hpp"
 
@@ -25,8 +26,8 @@ public:
     // belongs to that click, which meant "close", not "open again".
     static constexpr Seconds kReopenGuard{0.5};
 
-    MenuBarPanel(MenuBar& menuBar, Scheduler& scheduler, const PanelContent& content,
-                 double length = MenuBar::kVariableLength);
+    MenuBarPanel(MenuBar& menuBar, EventMonitors& eventMonitors, Scheduler& scheduler,
+                 const PanelContent& content, double length = MenuBar::kVariableLength);
     ~MenuBarPanel();
     MenuBarPanel(const MenuBarPanel&) = delete;
     MenuBarPanel& operator=(const MenuBarPanel&) = delete;
@@ -46,6 +47,7 @@ private:
     void didClose();
 
     MenuBar& menuBar_;
+    EventMonitors& eventMonitors_;
     Scheduler& scheduler_;
     // When the system last closed the popover by itself; closes asked for here do not count.
     std::optional<Seconds> closedBySystemAt_;

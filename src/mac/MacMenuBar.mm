@@ -1,16 +1,13 @@
 #include "mac/MacPorts.hpp"
 
-#include <cassert>
 #include <memory>
 #include <utility>
 #include <variant>
 
 #include "base/Overloaded.hpp"
-#include "mac/CancellableAction.hpp"
 #include "mac/MacActionTarget.hpp"
 #include "mac/MacFrameworks.h"
 #include "mac/MacMenuPanelView.hpp"
-#include "mac/MacMonitorSubscription.hpp"
 #include "mac/MacObservation.hpp"
 #include "mac/MacPanelPageView.hpp"
 #include "mac/MacViews.hpp"
@@ -19,13 +16,6 @@
 namespace quorvane {
 
 namespace {
-
-using Callback = CancellableAction<>;
-
-void run(const std::shared_ptr<Callback>& callback) {
-    assert([NSThread isMainThread]);
-    Callback::run(callback);
-}
 
 class MacStatusItem final : public StatusItem {
 public:
@@ -169,7 +159,7 @@ NSView* makeContentView(const PanelContent& content) {
                       content.kind);
 }
 
-// NSStatusBar's items, NSPopover, NSEvent's global monitors and NSApplication's activation.
+// NSStatusBar's items, NSPopover and NSApplication's activation.
 // Main thread only.
 class MacMenuBar final : public MenuBar {
 public:
@@ -180,20 +170,6 @@ public:
     std::unique_ptr<Popover> makePopover(const PanelContent& content,
                                          PopoverBehavior behavior) override {
         return std::make_unique<MacPopover>(makeContentView(content), behavior);
-    }
-
-    Subscription addGlobalMonitor(std::uint64_t eventMask, std::function<void()> handler) override {
-        auto callback = std::make_shared<Callback>(std::move(handler));
-        id monitor =
-            [NSEvent addGlobalMonitorForEventsMatchingMask:static_cast<NSEventMask>(eventMask)
-                                                   handler:^(NSEvent*) {
-                                                     // Hop to the main loop before
-                                                     // touching the panel.
-                                                     runSoon(^{
-                                                       run(callback);
-                                                     });
-                                                   }];
-        return monitorSubscription(callback, monitor);
     }
 
     void activateApplication() override { [NSApp activate]; }

@@ -11,7 +11,6 @@ public:
     std::unique_ptr<StatusItem> makeStatusItem(double length) override;
     std::unique_ptr<Popover> makePopover(const PanelContent& content,
                                          PopoverBehavior behavior) override;
-    Subscription addGlobalMonitor(std::uint64_t, std::function<void()>) override { return {}; }
     void activateApplication() override {}
 };
 

@@ -99,7 +99,7 @@ TEST(AppLifecycle, APermissionChangeReconcilesAndASetupNeedOpensTheToolsPage) {
     launched.fakes.calls.clear();
 
     launched.registry().setEnabled(true, launched.tool("remap"), true);
-    EXPECT_EQ(launched.fakes.calls, (Calls{"close popover", "remove monitor", "show settings"}));
+    EXPECT_EQ(launched.fakes.calls, (Calls{"close popover", "show settings"}));
     EXPECT_EQ(launched.settings().selectedTool(), &launched.tool("remap"));
 
     launched.fakes.permissionProbe.accessibility = true;

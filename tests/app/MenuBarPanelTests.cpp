@@ -12,7 +12,7 @@ using Calls = std::vector<std::string>;
 struct Panel {
     FakePlatform fakes;
     std::unique_ptr<MenuBarPanel> panel = std::make_unique<MenuBarPanel>(
-        fakes.menuBar, fakes.scheduler,
+        fakes.menuBar, fakes.eventMonitors, fakes.scheduler,
         PanelContent{PanelContent::Page{[] { return SettingsPage{}; }}});
     int opened = 0;
     int closed = 0;
@@ -28,19 +28,28 @@ struct Panel {
         };
         fakes.calls.clear();
     }
+
+    // A press of this kind in another application, as a global monitor sees it.
+    void pressElsewhere(EventType type) {
+        FakeEvent event;
+        event.eventType = type;
+        fakes.eventMonitors.send(event);
+    }
+    bool monitors() const { return !fakes.eventMonitors.monitors.empty(); }
 };
 
 TEST(MenuBarPanel, TwoClicksOpenAndCloseOnceEach) {
     Panel p;
     p.fakes.menuBar.click();
     EXPECT_TRUE(p.panel->isShown());
-    EXPECT_EQ(p.fakes.calls,
-              (Calls{"onOpen", "activate", "show popover", "add monitor 0x200000a"}));
+    EXPECT_EQ(p.fakes.calls, (Calls{"onOpen", "activate", "show popover"}));
+    EXPECT_TRUE(p.monitors());
 
     p.fakes.calls.clear();
     p.fakes.menuBar.click();
     EXPECT_FALSE(p.panel->isShown());
-    EXPECT_EQ(p.fakes.calls, (Calls{"close popover", "remove monitor", "onClose"}));
+    EXPECT_EQ(p.fakes.calls, (Calls{"close popover", "onClose"}));
+    EXPECT_FALSE(p.monitors());
     EXPECT_EQ(p.opened, 1);
     EXPECT_EQ(p.closed, 1);
 }
@@ -48,15 +57,15 @@ TEST(MenuBarPanel, TwoClicksOpenAndCloseOnceEach) {
 TEST(MenuBarPanel, AClickInAnotherAppClosesItAndRemovesTheMonitor) {
     Panel p;
     p.fakes.menuBar.click();
-    p.fakes.menuBar.clickElsewhere(10);  // a key-down is not a click
+    p.pressElsewhere(EventType::keyDown);
     EXPECT_TRUE(p.panel->isShown());
 
-    p.fakes.menuBar.clickElsewhere(25);  // other mouse button
+    p.pressElsewhere(EventType::otherMouseDown);
     EXPECT_FALSE(p.panel->isShown());
-    EXPECT_TRUE(p.fakes.menuBar.monitors.empty());
+    EXPECT_FALSE(p.monitors());
     EXPECT_EQ(p.closed, 1);
 
-    p.fakes.menuBar.clickElsewhere(1);
+    p.pressElsewhere(EventType::leftMouseDown);
     EXPECT_EQ(p.closed, 1) << "no monitor is left to react";
 }
 
@@ -64,7 +73,7 @@ TEST(MenuBarPanel, EveryWayOfClosingRemovesTheMonitorAndCallsBackOnce) {
     Panel p;
     p.fakes.menuBar.click();
     p.fakes.menuBar.popovers.front()->dismiss();  // Escape
-    EXPECT_TRUE(p.fakes.menuBar.monitors.empty());
+    EXPECT_FALSE(p.monitors());
 
     p.fakes.scheduler.advance(MenuBarPanel::kReopenGuard);
     p.fakes.menuBar.click();
@@ -72,7 +81,7 @@ TEST(MenuBarPanel, EveryWayOfClosingRemovesTheMonitorAndCallsBackOnce) {
     p.panel->close();
     EXPECT_EQ(p.opened, 2);
     EXPECT_EQ(p.closed, 2);
-    EXPECT_TRUE(p.fakes.menuBar.monitors.empty());
+    EXPECT_FALSE(p.monitors());
 }
 
 TEST(MenuBarPanel, AClickOnTheItemThatClosedTheTransientPopoverDoesNotReopenIt) {
@@ -103,20 +112,20 @@ TEST(MenuBarPanel, DestroyingItWhileShownClosesItRemovesTheItemAndCallsNothing) 
     p.fakes.menuBar.click();
     p.fakes.calls.clear();
     p.panel.reset();
-    EXPECT_EQ(p.fakes.calls, (Calls{"remove monitor", "close popover", "remove item"}));
+    EXPECT_EQ(p.fakes.calls, (Calls{"close popover", "remove item"}));
     EXPECT_EQ(p.closed, 0);
     EXPECT_TRUE(p.fakes.menuBar.items.empty());
-    EXPECT_TRUE(p.fakes.menuBar.monitors.empty());
+    EXPECT_FALSE(p.monitors());
 }
 
 TEST(MenuBarPanel, AnItemWithoutAButtonNeverOpens) {
     FakePlatform fakes;
     fakes.menuBar.itemsHaveButtons = false;
-    MenuBarPanel panel(fakes.menuBar, fakes.scheduler,
+    MenuBarPanel panel(fakes.menuBar, fakes.eventMonitors, fakes.scheduler,
                        PanelContent{static_cast<MenuModel*>(nullptr)});
     panel.toggle();
     EXPECT_FALSE(panel.isShown());
-    EXPECT_TRUE(fakes.menuBar.monitors.empty());
+    EXPECT_TRUE(fakes.eventMonitors.monitors.empty());
 }
 
 }  // namespace

@@ -97,18 +97,6 @@ public:
         popovers.push_back(popover.get());
         return popover;
     }
-    Subscription addGlobalMonitor(std::uint64_t mask, std::function<void()> handler) override {
-        char text[32];
-        std::snprintf(text, sizeof text, "add monitor 0x%llx",
-                      static_cast<unsigned long long>(mask));
-        calls.push_back(text);
-        const std::uint64_t id = nextMonitor++;
-        monitors.push_back({id, mask, std::move(handler)});
-        return Subscription([this, id] {
-            calls.push_back("remove monitor");
-            std::erase_if(monitors, [id](const Monitor& m) { return m.id == id; });
-        });
-    }
     void activateApplication() override { calls.push_back("activate"); }
 
     // A click on an item's button.
@@ -117,29 +105,11 @@ public:
             items[item]->action();
         }
     }
-    // A mouse-down of this event type in another application.
-    void clickElsewhere(int eventType = 1) {
-        const auto snapshot = monitors;
-        for (const auto& monitor : snapshot) {
-            const bool live = std::any_of(monitors.begin(), monitors.end(),
-                                          [&](const Monitor& m) { return m.id == monitor.id; });
-            if (live && (monitor.mask >> eventType & 1U) != 0) {
-                monitor.handler();
-            }
-        }
-    }
 
-    struct Monitor {
-        std::uint64_t id;
-        std::uint64_t mask;
-        std::function<void()> handler;
-    };
     std::vector<std::string>& calls;
     bool itemsHaveButtons = true;
     std::vector<Item*> items;
     std::vector<Panel*> popovers;
-    std::vector<Monitor> monitors;
-    std::uint64_t nextMonitor = 1;
 };
 
 }  // namespace quorvane

@@ -116,8 +116,8 @@ void AppVolumeTool::start() {
     // Before the monitor, whose first list already runs syncTaps.
     outputListener_ =
         std::make_unique<OutputDeviceWatch>(platform_.audioHardware, [this] { outputChanged(); });
-    panel_ = std::make_unique<MenuBarPanel>(platform_.menuBar, platform_.scheduler, panelContent_,
-                                            kSquareItemLength);
+    panel_ = std::make_unique<MenuBarPanel>(platform_.menuBar, platform_.eventMonitors,
+                                            platform_.scheduler, panelContent_, kSquareItemLength);
     panel_->statusItem().setImage(kItemImage, kItemDescription);
     panel_->onClose = [this] { list_.setPointerInside(false); };
     monitor_.onChange = [this] {

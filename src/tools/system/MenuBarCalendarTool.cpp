@@ -65,7 +65,8 @@ void MenuBarCalendarTool::start() {
     if (panel_) {
         return;
     }
-    panel_ = std::make_unique<MenuBarPanel>(platform_.menuBar, platform_.scheduler, panelContent_);
+    panel_ = std::make_unique<MenuBarPanel>(platform_.menuBar, platform_.eventMonitors,
+                                            platform_.scheduler, panelContent_);
     panel_->statusItem().setImage(kItemImage, descriptor_.identity.name);
     // Every opening starts at this month, whatever month was left showing.
     panel_->onOpen = [this] { showMonth(0); };

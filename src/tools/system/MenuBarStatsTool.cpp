@@ -39,7 +39,8 @@ void MenuBarStatsTool::start() {
     if (panel_) {
         return;
     }
-    panel_ = std::make_unique<MenuBarPanel>(platform_.menuBar, platform_.scheduler, panelContent_);
+    panel_ = std::make_unique<MenuBarPanel>(platform_.menuBar, platform_.eventMonitors,
+                                            platform_.scheduler, panelContent_);
     panel_->statusItem().setImage(kItemImage, descriptor_.identity.name);
     onScreen_ = panel_->statusItem().observeOnScreen([this] { onScreenChanged(); });
     onScreenChanged();
