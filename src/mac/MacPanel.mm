@@ -21,9 +21,7 @@ namespace quorvane {
 namespace {
 
 NSView* makeLevelBar(const LevelBar& bar) {
-    NSStackView* row = [[NSStackView alloc] init];
-    row.orientation = NSUserInterfaceLayoutOrientationHorizontal;
-    row.spacing = LevelBar::kSpacing;
+    NSStackView* row = makeRow(LevelBar::kSpacing);
     for (int index = 0; index < LevelBar::kSegments; ++index) {
         NSView* segment =
             fixSize([[NSView alloc] init], LevelBar::kSegmentWidth, LevelBar::kSegmentHeight);
@@ -38,20 +36,13 @@ NSView* makeLevelBar(const LevelBar& bar) {
 }
 
 NSView* makeCard(const HUDCard& card) {
-    NSStackView* stack = [[NSStackView alloc] init];
-    stack.orientation = NSUserInterfaceLayoutOrientationVertical;
-    stack.spacing = HUDCard::kSpacing;
+    NSStackView* stack = makeColumn(HUDCard::kSpacing);
+    stack.alignment = NSLayoutAttributeCenterX;
     stack.edgeInsets = NSEdgeInsetsMake(HUDCard::kPadding, HUDCard::kPadding, HUDCard::kPadding,
                                         HUDCard::kPadding);
 
-    NSImage* symbol = [NSImage imageWithSystemSymbolName:makeNSString(card.systemImage)
-                                accessibilityDescription:nil];
-    NSImageSymbolConfiguration* size =
-        [NSImageSymbolConfiguration configurationWithPointSize:HUDCard::kSymbolSize
-                                                        weight:NSFontWeightRegular];
-    NSImage* sized = [symbol imageWithSymbolConfiguration:size];
     // An unknown symbol name gives no image; the card then shows its title alone.
-    NSImageView* image = [NSImageView imageViewWithImage:sized ? sized : [[NSImage alloc] init]];
+    NSImageView* image = makeSymbol(card.systemImage, HUDCard::kSymbolSize);
     image.translatesAutoresizingMaskIntoConstraints = NO;
     [image.heightAnchor constraintEqualToConstant:HUDCard::kSymbolFrameHeight].active = YES;
     [stack addArrangedSubview:image];

@@ -231,9 +231,7 @@ struct PageState {
     NSTextField* conflict = quorvane::makeSecondaryLabel(shortcut->conflictNotice, _width);
     conflict.textColor = quorvane::color(quorvane::ColorRole::red);
     [_updates addObject:^{
-      if (shortcut->buttonTitle) {
-          record.title = quorvane::text(shortcut->buttonTitle());
-      }
+      record.title = quorvane::text(quorvane::recorderTitle(*shortcut));
       clear.hidden = !quorvane::showsClearButton(*shortcut);
       conflict.hidden = !quorvane::showsConflict(*shortcut);
     }];

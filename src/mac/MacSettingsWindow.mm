@@ -15,7 +15,6 @@
 namespace {
 
 using Model = quorvane::SettingsWindowModel;
-using SidebarKind = Model::SidebarRow::Kind;
 
 constexpr CGFloat kSidebarWidth = 230;
 constexpr CGFloat kPageWidth = 520;
@@ -178,11 +177,11 @@ constexpr CGFloat kPageWidth = 520;
 }
 
 - (BOOL)tableView:(NSTableView*)tableView isGroupRow:(NSInteger)row {
-    return _rows[static_cast<std::size_t>(row)].kind == SidebarKind::category;
+    return _rows[static_cast<std::size_t>(row)].isHeading();
 }
 
 - (BOOL)tableView:(NSTableView*)tableView shouldSelectRow:(NSInteger)row {
-    return _rows[static_cast<std::size_t>(row)].kind != SidebarKind::category;
+    return !_rows[static_cast<std::size_t>(row)].isHeading();
 }
 
 - (void)tableViewSelectionDidChange:(NSNotification*)notification {

@@ -5,15 +5,41 @@
 #include "base/CallIfSet.hpp"
 #include "mac/MacActionTarget.hpp"
 #include "mac/MacViews.hpp"
+#include "ui/StyledText.hpp"
 
 // unconfirmed: check on a Mac first. NSSwitch, NSBox (custom and separator types, corner
 // radius, colours), NSButton's image position, push-on-push-off type, bordered flag, key
-// equivalents and tool tips are written from Apple's reference, not from the fact sheet.
+// equivalents and tool tips, NSFont and attributed strings are written from Apple's reference,
+// not from the fact sheet.
 namespace quorvane {
 
 namespace {
 
 using Kind = ViewNode::Kind;
+
+NSTextField* makeHeading(std::string_view utf8, CGFloat size) {
+    NSTextField* label = makeLabel(utf8);
+    label.font = [NSFont boldSystemFontOfSize:size];
+    return label;
+}
+
+// **Double asterisks** mark bold parts.
+NSTextField* makeStyledLabel(std::string_view utf8, CGFloat width) {
+    NSTextField* label = makeWrappingLabel("", width);
+    const CGFloat size = [NSFont systemFontSize];
+    NSMutableAttributedString* styled = [[NSMutableAttributedString alloc] init];
+    for (const auto& run : StyledText::parse(utf8)) {
+        NSDictionary* attributes = @{
+            NSFontAttributeName : run.bold ? [NSFont boldSystemFontOfSize:size]
+                                           : [NSFont systemFontOfSize:size],
+            NSForegroundColorAttributeName : [NSColor labelColor],
+        };
+        [styled appendAttributedString:[[NSAttributedString alloc] initWithString:text(run.text)
+                                                                       attributes:attributes]];
+    }
+    label.attributedStringValue = styled;
+    return label;
+}
 
 void addChildren(NSStackView* stack, const ViewNode& node, NSMutableArray* keep) {
     stack.spacing = node.size;

@@ -16,12 +16,9 @@ NSColor* color(ColorRole role);
 NSControlStateValue stateValue(bool on);
 
 NSTextField* makeLabel(std::string_view utf8);
-NSTextField* makeHeading(std::string_view utf8, CGFloat size);
 // Wraps at `width` points.
 NSTextField* makeWrappingLabel(std::string_view utf8, CGFloat width);
 NSTextField* makeSecondaryLabel(std::string_view utf8, CGFloat width);
-// **Double asterisks** mark bold parts.
-NSTextField* makeStyledLabel(std::string_view utf8, CGFloat width);
 // Empty when the symbol does not exist on this system.
 NSImageView* makeSymbol(std::string_view systemImage, CGFloat pointSize);
 NSImageView* makeSymbol(std::string_view systemImage, CGFloat pointSize, ColorRole tint);

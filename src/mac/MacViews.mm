@@ -1,7 +1,6 @@
 #include "mac/MacViews.hpp"
 
 #include "mac/MacActionTarget.hpp"
-#include "ui/StyledText.hpp"
 
 // A scroll view's document view draws from the bottom unless it is flipped.
 @interface QVFlippedView : NSView
@@ -46,12 +45,6 @@ NSControlStateValue stateValue(bool on) {
 
 NSTextField* makeLabel(std::string_view utf8) { return [NSTextField labelWithString:text(utf8)]; }
 
-NSTextField* makeHeading(std::string_view utf8, CGFloat size) {
-    NSTextField* label = makeLabel(utf8);
-    label.font = [NSFont boldSystemFontOfSize:size];
-    return label;
-}
-
 NSTextField* makeWrappingLabel(std::string_view utf8, CGFloat width) {
     NSTextField* label = [NSTextField wrappingLabelWithString:text(utf8)];
     // Without a width a wrapping label in a stack view grows to one long line.
@@ -63,23 +56,6 @@ NSTextField* makeSecondaryLabel(std::string_view utf8, CGFloat width) {
     NSTextField* label = makeWrappingLabel(utf8, width);
     label.font = [NSFont systemFontOfSize:[NSFont smallSystemFontSize]];
     label.textColor = [NSColor secondaryLabelColor];
-    return label;
-}
-
-NSTextField* makeStyledLabel(std::string_view utf8, CGFloat width) {
-    NSTextField* label = makeWrappingLabel("", width);
-    const CGFloat size = [NSFont systemFontSize];
-    NSMutableAttributedString* styled = [[NSMutableAttributedString alloc] init];
-    for (const auto& run : StyledText::parse(utf8)) {
-        NSDictionary* attributes = @{
-            NSFontAttributeName : run.bold ? [NSFont boldSystemFontOfSize:size]
-                                           : [NSFont systemFontOfSize:size],
-            NSForegroundColorAttributeName : [NSColor labelColor],
-        };
-        [styled appendAttributedString:[[NSAttributedString alloc] initWithString:text(run.text)
-                                                                       attributes:attributes]];
-    }
-    label.attributedStringValue = styled;
     return label;
 }
 

@@ -6,6 +6,7 @@
 #include <variant>
 
 #include "base/CallIfSet.hpp"
+#include "input/ShortcutRecorder.hpp"
 
 namespace quorvane {
 
@@ -87,6 +88,10 @@ bool showsClearButton(const SettingsRow::Shortcut& shortcut) {
 
 bool showsConflict(const SettingsRow::Shortcut& shortcut) {
     return shortcut.hasConflict && shortcut.hasConflict();
+}
+
+std::string recorderTitle(const SettingsRow::Shortcut& shortcut) {
+    return shortcut.buttonTitle ? shortcut.buttonTitle() : ShortcutRecorder::kEmptyTitle;
 }
 
 std::vector<ListLine> listLines(const SettingsRow::AppList& list) {

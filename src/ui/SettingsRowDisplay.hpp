@@ -55,6 +55,8 @@ std::string shortcutText(const SettingsRow::Shortcut& shortcut);
 // Whether the clear button shows: a shortcut is set and the recorder is not listening.
 bool showsClearButton(const SettingsRow::Shortcut& shortcut);
 bool showsConflict(const SettingsRow::Shortcut& shortcut);
+// The recorder button's title: the row's own, or the recorder's invitation when it has none.
+std::string recorderTitle(const SettingsRow::Shortcut& shortcut);
 
 // One line of an application or item list, with the action of its remove button; empty when
 // entries cannot be removed. An application without a name shows its bundle identifier.

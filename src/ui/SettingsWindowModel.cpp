@@ -31,14 +31,14 @@ void SettingsWindowModel::setQuery(std::string_view query) {
 }
 
 ColorRole SettingsWindowModel::SidebarRow::titleColor() const {
-    if (kind == Kind::category) {
+    if (isHeading()) {
         return ColorRole::secondaryLabel;
     }
     return isAvailable ? ColorRole::label : ColorRole::tertiaryLabel;
 }
 
 ViewNode SettingsWindowModel::SidebarRow::view() const {
-    if (kind == Kind::category) {
+    if (isHeading()) {
         return ViewNode::heading(title, 11).colored(titleColor());
     }
     ViewNode name = ViewNode::label(title).colored(titleColor());

@@ -48,6 +48,8 @@ public:
         bool isOn = false;
         bool isAvailable = true;
 
+        // Category headings cannot be selected.
+        bool isHeading() const { return kind == Kind::category; }
         // Headings are quieter than entries; a tool that is not available is greyed out.
         ColorRole titleColor() const;
         // The row as the sidebar draws it: a heading, or an entry with its symbol and, for a

@@ -68,6 +68,9 @@ TEST(SettingsRowDisplayTest, ShortcutTextClearButtonAndStoppingEveryRecorder) {
     SettingsRow::Shortcut unclearable = shortcut;
     unclearable.clear = nullptr;
     EXPECT_FALSE(showsClearButton(unclearable));
+    EXPECT_EQ(recorderTitle(unclearable), "Record Shortcut") << "a row that names no title";
+    unclearable.buttonTitle = [] { return std::string("⌃⌥←"); };
+    EXPECT_EQ(recorderTitle(unclearable), "⌃⌥←");
 
     // Every recorder on the page stops, in any section; rows without one are passed over.
     SettingsRow::Shortcut noRecorder;
