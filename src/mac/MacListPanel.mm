@@ -7,17 +7,17 @@
 #include "mac/MacFloatingWindow.hpp"
 #include "mac/MacFrameworks.h"
 #include "mac/MacStrings.hpp"
+#include "mac/MacViewNode.hpp"
 #include "mac/MacViews.hpp"
 
 // unconfirmed: check on a Mac first. Of the AppKit below only the panel's initializer, its
 // style mask, backing, window levels and collection behaviour values are in the fact sheet.
 // canBecomeKeyWindow, makeKeyWindow, makeFirstResponder:, NSTableView and its data source and
-// delegate, NSTrackingArea, NSTextField's delegate, NSWorkspace's application icons and the
-// did-resign-key notification were written from Apple's reference.
+// delegate, NSTrackingArea, NSTextField's delegate and the did-resign-key notification were
+// written from Apple's reference.
 
 using quorvane::ListPanel;
 using quorvane::ListPanelContent;
-using quorvane::ListPanelRow;
 
 // A borderless panel refuses key status unless it says otherwise; this one takes it, so the
 // search field receives typing while the app the user is in stays active.
@@ -207,8 +207,8 @@ using quorvane::ListPanelRow;
     _error.hidden = content.error.empty();
     _footer.stringValue = quorvane::text(content.footer);
     [_table reloadData];
-    if (content.selection < content.rowCount) {
-        [_table scrollRowToVisible:static_cast<NSInteger>(content.selection)];
+    if (const auto row = content.rowToReveal()) {
+        [_table scrollRowToVisible:static_cast<NSInteger>(*row)];
     }
 }
 
@@ -249,65 +249,7 @@ using quorvane::ListPanelRow;
     if (!_handlers.row || index < 0) {
         return nil;
     }
-    return [self viewForRow:_handlers.row(static_cast<std::size_t>(index))];
-}
-
-- (NSView*)viewForRow:(const ListPanelRow&)row {
-    NSStackView* stack = quorvane::makeRow(8);
-    stack.edgeInsets = NSEdgeInsetsMake(0, 6, 0, 6);
-    stack.wantsLayer = YES;
-    stack.layer.cornerRadius = 6;
-    stack.layer.backgroundColor =
-        [[NSColor controlAccentColor] colorWithAlphaComponent:row.highlightOpacity()].CGColor;
-
-    NSTextField* number = quorvane::makeLabel(row.number);
-    number.font = [NSFont monospacedDigitSystemFontOfSize:11 weight:NSFontWeightRegular];
-    number.textColor = [NSColor tertiaryLabelColor];
-    [number.widthAnchor constraintEqualToConstant:12].active = YES;
-    [stack addArrangedSubview:number];
-
-    NSImage* image = nil;
-    if (row.thumbnail && row.thumbnail->image) {
-        // The thumbnail holds a CGImage.
-        auto cgImage = static_cast<CGImageRef>(const_cast<void*>(row.thumbnail->image.get()));
-        image = [[NSImage alloc] initWithCGImage:cgImage size:NSZeroSize];
-    } else if (!row.symbol.empty()) {
-        image = quorvane::makeSymbolImage(row.symbol, row.title);
-    }
-    if (image != nil) {
-        NSImageView* view = [NSImageView imageViewWithImage:image];
-        view.imageScaling = NSImageScaleProportionallyUpOrDown;
-        const CGFloat side = ListPanelContent::kThumbnailSize;
-        [stack addArrangedSubview:quorvane::fixSize(view, side, side)];
-    }
-
-    NSTextField* title = quorvane::makeLabel(row.title);
-    title.lineBreakMode = NSLineBreakByTruncatingTail;
-    [title setContentCompressionResistancePriority:NSLayoutPriorityDefaultLow
-                                    forOrientation:NSLayoutConstraintOrientationHorizontal];
-    [stack addArrangedSubview:title];
-
-    if (row.app) {
-        [stack addArrangedSubview:[self appLabel:*row.app]];
-    }
-    return stack;
-}
-
-// The source app's icon and name, found from its bundle identifier.
-- (NSView*)appLabel:(const std::string&)bundleID {
-    NSURL* url = [[NSWorkspace sharedWorkspace]
-        URLForApplicationWithBundleIdentifier:quorvane::text(bundleID)];
-    NSStackView* label = quorvane::makeRow(4);
-    if (url != nil) {
-        [label addArrangedSubview:quorvane::makeFileIcon(quorvane::utf8String(url.path), 14)];
-    }
-    NSString* name = url != nil ? [[NSFileManager defaultManager] displayNameAtPath:url.path]
-                                : quorvane::text(bundleID);
-    NSTextField* text = quorvane::makeLabel(quorvane::utf8String(name));
-    text.font = [NSFont systemFontOfSize:11];
-    text.textColor = [NSColor secondaryLabelColor];
-    [label addArrangedSubview:text];
-    return label;
+    return quorvane::makeView(_handlers.row(static_cast<std::size_t>(index)).view(), nil);
 }
 
 @end

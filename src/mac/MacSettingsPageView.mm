@@ -130,10 +130,11 @@ struct PageState {
     [_updates addObject:^{
       box.state = quorvane::stateValue(quorvane::isOn(*toggle));
     }];
-    if (toggle->help.empty()) {
-        return box;
+    NSStackView* column = quorvane::makeColumn(2, @[ box ]);
+    for (const auto& help : quorvane::toggleHelp(*toggle, _width)) {
+        [column addArrangedSubview:quorvane::makeView(help, _targets)];
     }
-    return quorvane::makeColumn(2, @[ box, quorvane::makeSecondaryLabel(toggle->help, _width) ]);
+    return column;
 }
 
 - (NSView*)choiceRow:(const Row::Choice*)choice {

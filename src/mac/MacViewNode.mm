@@ -9,8 +9,9 @@
 
 // unconfirmed: check on a Mac first. NSSwitch, NSBox (custom and separator types, corner
 // radius, colours), NSButton's image position, push-on-push-off type, bordered flag, key
-// equivalents and tool tips, NSFont and attributed strings are written from Apple's reference,
-// not from the fact sheet.
+// equivalents and tool tips, NSFont and attributed strings, NSImage from a CGImage, image
+// scaling, compression resistance and layer colours are written from Apple's reference, not
+// from the fact sheet.
 namespace quorvane {
 
 namespace {
@@ -55,8 +56,64 @@ NSTextField* shaped(NSTextField* label, const ViewNode& node) {
     }
     if (node.truncates) {
         label.lineBreakMode = NSLineBreakByTruncatingTail;
+        // Otherwise a long text keeps its width and pushes its neighbours out of the row.
+        [label setContentCompressionResistancePriority:NSLayoutPriorityDefaultLow
+                                        forOrientation:NSLayoutConstraintOrientationHorizontal];
     }
     return label;
+}
+
+NSTextField* label(const ViewNode& node) {
+    NSTextField* made = makeLabel(node.text);
+    if (node.size > 0) {
+        made.font = node.monospacedDigits
+                        ? [NSFont monospacedDigitSystemFontOfSize:node.size
+                                                           weight:NSFontWeightRegular]
+                        : [NSFont systemFontOfSize:node.size];
+    }
+    if (node.width > 0) {
+        [made.widthAnchor constraintEqualToConstant:node.width].active = YES;
+    }
+    return shaped(made, node);
+}
+
+// The tint and rounded corners of a highlighted row, with room at its sides.
+void highlight(NSStackView* row, double opacity) {
+    row.edgeInsets = NSEdgeInsetsMake(0, 6, 0, 6);
+    row.wantsLayer = YES;
+    row.layer.cornerRadius = 6;
+    row.layer.backgroundColor = [color(ColorRole::accent) colorWithAlphaComponent:opacity].CGColor;
+}
+
+NSView* picture(const ViewNode& node) {
+    NSImageView* view = [[NSImageView alloc] initWithFrame:NSZeroRect];
+    // A thumbnail holds a CGImage. nil for a symbol this system lacks, which leaves the space.
+    view.image = node.image ? [[NSImage alloc]
+                                  initWithCGImage:static_cast<CGImageRef>(
+                                                      const_cast<void*>(node.image->image.get()))
+                                             size:NSZeroSize]
+                            : makeSymbolImage(node.symbol, node.text);
+    view.imageScaling = NSImageScaleProportionallyUpOrDown;
+    return fixSize(view, node.size, node.size);
+}
+
+// unconfirmed: check on a Mac first (-[NSWorkspace URLForApplicationWithBundleIdentifier:] and
+// -[NSFileManager displayNameAtPath:] are from Apple's reference). An app that is not found
+// shows its bundle identifier alone.
+NSView* appBadge(const ViewNode& node) {
+    NSURL* url =
+        [[NSWorkspace sharedWorkspace] URLForApplicationWithBundleIdentifier:text(node.text)];
+    NSStackView* badge = makeRow(4);
+    if (url != nil) {
+        [badge addArrangedSubview:makeFileIcon(utf8String(url.path), 14)];
+    }
+    NSString* name =
+        url != nil ? [[NSFileManager defaultManager] displayNameAtPath:url.path] : text(node.text);
+    NSTextField* label = makeLabel(utf8String(name));
+    label.font = [NSFont systemFontOfSize:11];
+    label.textColor = color(ColorRole::secondaryLabel);
+    [badge addArrangedSubview:label];
+    return badge;
 }
 
 NSButton* button(const ViewNode& node, NSMutableArray* keep) {
@@ -140,11 +197,14 @@ NSView* makeView(const ViewNode& node, NSMutableArray* keep) {
         case Kind::row: {
             NSStackView* row = makeRow(node.size);
             row.alignment = node.alignsTop ? NSLayoutAttributeTop : NSLayoutAttributeCenterY;
+            if (node.highlight) {
+                highlight(row, *node.highlight);
+            }
             addChildren(row, node, keep);
             return row;
         }
         case Kind::label:
-            return shaped(makeLabel(node.text), node);
+            return label(node);
         case Kind::heading:
             return shaped(makeHeading(node.text, node.size), node);
         case Kind::wrappingLabel:
@@ -158,6 +218,10 @@ NSView* makeView(const ViewNode& node, NSMutableArray* keep) {
                               : makeSymbol(node.symbol, node.size);
         case Kind::fileIcon:
             return makeFileIcon(node.text, node.size);
+        case Kind::picture:
+            return picture(node);
+        case Kind::appBadge:
+            return appBadge(node);
         case Kind::button:
             return button(node, keep);
         case Kind::checkbox: {

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "platform/Thumbnail.hpp"
+#include "ui/ViewNode.hpp"
 
 namespace quorvane {
 
@@ -24,6 +25,10 @@ struct ListPanelRow {
     // is not selected.
     static constexpr double kSelectedOpacity = 0.25;
     double highlightOpacity() const { return isSelected ? kSelectedOpacity : 0; }
+
+    // The row as drawn: its number, its thumbnail or else its symbol, its title, which gives
+    // way when room runs out, and the app it came from.
+    ViewNode view() const;
 };
 
 // Everything a floating list shows besides its rows, which it asks for one at a time as they
@@ -46,6 +51,11 @@ struct ListPanelContent {
     std::string footer;
     // The tool's last error, shown above the footer; empty for none.
     std::string error;
+
+    // The row to scroll into view: the selection, while there is a row to select.
+    std::optional<std::size_t> rowToReveal() const {
+        return selection < rowCount ? std::optional(selection) : std::nullopt;
+    }
 };
 
 }  // namespace quorvane

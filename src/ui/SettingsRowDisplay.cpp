@@ -18,6 +18,13 @@ bool isOn(const SettingsRow::Toggle& toggle) {
     return toggle.get && toggle.get();
 }
 
+std::vector<ViewNode> toggleHelp(const SettingsRow::Toggle& toggle, double width) {
+    if (toggle.help.empty()) {
+        return {};
+    }
+    return {ViewNode::secondaryLabel(toggle.help, width)};
+}
+
 ChoiceDisplay choiceDisplay(const SettingsRow::Choice& choice) {
     const std::string current = choice.get ? choice.get() : std::string();
     ChoiceDisplay display;

@@ -20,6 +20,8 @@ namespace quorvane {
 // Rows without a visibility rule always show.
 bool isShown(const SettingsRow& row);
 bool isOn(const SettingsRow::Toggle& toggle);
+// What shows under a toggle's checkbox: its help text, when it has one.
+std::vector<ViewNode> toggleHelp(const SettingsRow::Toggle& toggle, double width);
 
 // A choice as a pop-up: the options' titles, then the current value when it matches none of
 // them (an equalizer whose gains match no preset shows "Custom"), which is shown selected but

@@ -80,6 +80,22 @@ ViewNode ViewNode::fileIcon(std::string path, double size) {
     return sized(Kind::fileIcon, std::move(path), size);
 }
 
+ViewNode ViewNode::picture(Thumbnail image, double size) {
+    ViewNode made = sized(Kind::picture, {}, size);
+    made.image = std::move(image);
+    return made;
+}
+
+ViewNode ViewNode::symbolPicture(std::string name, std::string description, double size) {
+    ViewNode made = sized(Kind::picture, std::move(description), size);
+    made.symbol = std::move(name);
+    return made;
+}
+
+ViewNode ViewNode::appBadge(std::string bundleID) {
+    return node(Kind::appBadge, std::move(bundleID));
+}
+
 ViewNode ViewNode::button(std::string title, std::function<void()> action) {
     ViewNode made = node(Kind::button, std::move(title));
     made.action = std::move(action);

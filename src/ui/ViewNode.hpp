@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "base/ColorRole.hpp"
+#include "platform/Thumbnail.hpp"
 
 namespace quorvane {
 
@@ -16,13 +17,15 @@ struct ViewNode {
     enum class Kind {
         column,          // children top to bottom, leading edges aligned, `size` apart
         row,             // children side by side, centred on each other (or top-aligned)
-        label,           // one line
+        label,           // one line; in `size`-point type and `width` wide when given
         heading,         // bold, `size` points
         wrappingLabel,   // wraps at `width`
         secondaryLabel,  // smaller and quieter, wraps at `width`
         styledLabel,     // **double asterisks** mark bold parts; wraps at `width`
         symbol,          // the system symbol `symbol` at `size` points
         fileIcon,        // the icon of the file at `text`, `size` points square
+        picture,         // `image`, else the symbol `symbol` described as `text`, `size` square
+        appBadge,        // the icon and name of the app whose bundle identifier is `text`
         button,          // runs `action`
         checkbox,        // `isOn`; tells `toggled`
         toggleSwitch,    // `isOn`; tells `toggled`
@@ -43,6 +46,9 @@ struct ViewNode {
     // Instead of the kind's own colour.
     std::optional<ColorRole> color;
     bool alignsTop = false;
+    // A row's tint of the accent colour behind it, at this opacity.
+    std::optional<double> highlight;
+    bool monospacedDigits = false;
     // A label too long for its room ends in an ellipsis instead of pushing others aside.
     bool truncates = false;
     bool isOn = false;
@@ -57,6 +63,7 @@ struct ViewNode {
     bool withCommand = false;
     std::function<void()> action;
     std::function<void(bool on)> toggled;
+    std::optional<Thumbnail> image;
     std::vector<ViewNode> children;
 
     static ViewNode column(double spacing, std::vector<ViewNode> children = {});
@@ -68,6 +75,9 @@ struct ViewNode {
     static ViewNode styledLabel(std::string text, double width);
     static ViewNode symbolImage(std::string name, double size);
     static ViewNode fileIcon(std::string path, double size);
+    static ViewNode picture(Thumbnail image, double size);
+    static ViewNode symbolPicture(std::string name, std::string description, double size);
+    static ViewNode appBadge(std::string bundleID);
     static ViewNode button(std::string title, std::function<void()> action);
     static ViewNode checkbox(std::string title, bool on, std::function<void(bool on)> toggled);
     static ViewNode toggleSwitch(bool on, bool enabled, std::function<void(bool on)> toggled);

@@ -176,7 +176,12 @@ TEST(SettingsRowDisplayTest, ListLinesNameTheirEntryAndRemoveThatEntry) {
               (std::vector<std::string>{"Nothing yet."}));
 }
 
-TEST(SettingsRowDisplayTest, ASectionIsHeadedByItsIconAndTitleAndEndsWithItsFooter) {
+TEST(SettingsRowDisplayTest, HeadingsFootersAndHelpShowOnlyWhenGiven) {
+    SettingsRow::Toggle toggle{"Show seconds", {}, {}, ""};
+    EXPECT_TRUE(toggleHelp(toggle, 300).empty());
+    toggle.help = "Uses a little more power.";
+    EXPECT_EQ(toggleHelp(toggle, 300).at(0).text, toggle.help);
+
     SettingsSection section{"Mail", {}, "", "/Applications/Mail.app"};
     EXPECT_EQ(shownTexts(ViewNode::column(0, sectionHeading(section))),
               (std::vector<std::string>{"/Applications/Mail.app", "Mail"}));
