@@ -180,28 +180,15 @@ bool JsonReader::readString(std::string& out) {
             out.resize(end + (roomUntil - pos_) + ByteBlock::kSize);
             to = out.data() + end;
         }
-        if (size - pos_ >= ByteBlock::kSize) {
-            const ByteBlock::Bytes block = ByteBlock::load(data + pos_);
-            std::memcpy(to, &block, sizeof block);
-            const auto special =
-                (block < 0x20) | (block >= 0x80) | (block == '"') | (block == '\\');
-            if (ByteBlock::none(special)) {
-                pos_ += ByteBlock::kSize;
-                to += ByteBlock::kSize;
-                continue;
-            }
-            const std::size_t plain = ByteBlock::firstMarked(special);
-            pos_ += plain;
-            to += plain;
-        } else {
-            const std::size_t run = JsonWriter::plainLength(text_.substr(pos_));
-            std::memcpy(to, data + pos_, run);
-            pos_ += run;
-            to += run;
-            if (atEnd()) {
-                settle();
-                return failAtEnd();
-            }
+        const std::size_t plain = JsonWriter::copyPlainStep(data + pos_, data + size, to);
+        pos_ += plain;
+        to += plain;
+        if (plain == ByteBlock::kSize) {
+            continue;
+        }
+        if (atEnd()) {
+            settle();
+            return failAtEnd();
         }
         const auto c = static_cast<unsigned char>(data[pos_]);
         if (c == '"') {

@@ -62,28 +62,14 @@ void JsonWriter::string(std::string& out, std::string_view text) {
         char* const begin = out.data() + end;
         char* to = begin;
         while (at < stop) {
-            if (last - at >= static_cast<std::ptrdiff_t>(ByteBlock::kSize)) {
-                const ByteBlock::Bytes block = ByteBlock::load(at);
-                std::memcpy(to, &block, sizeof block);
-                const auto special =
-                    (block < 0x20) | (block >= 0x80) | (block == '"') | (block == '\\');
-                if (ByteBlock::none(special)) {
-                    at += ByteBlock::kSize;
-                    to += ByteBlock::kSize;
-                    continue;
-                }
-                const std::size_t plain = ByteBlock::firstMarked(special);
-                at += plain;
-                to += plain;
-            } else {
-                const std::size_t plain =
-                    plainLength(std::string_view(at, static_cast<std::size_t>(last - at)));
-                std::memcpy(to, at, plain);
-                at += plain;
-                to += plain;
-                if (at == last) {
-                    break;
-                }
+            const std::size_t plain = copyPlainStep(at, last, to);
+            at += plain;
+            to += plain;
+            if (plain == ByteBlock::kSize) {
+                continue;
+            }
+            if (at == last) {
+                break;
             }
             const auto c = static_cast<unsigned char>(*at);
             if (c >= 0x80) {
